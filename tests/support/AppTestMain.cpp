@@ -1,0 +1,16 @@
+#include "App.h"
+#include "Literals.h"
+#include "ScratchHome.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv)
+{
+    const ScratchHome home;
+    ::testing::InitGoogleTest(&argc, argv);
+    const QMWidgets::App application(argc, argv, u"Velmora"_qs, u"Calderin M4A"_qs);
+    QCoreApplication::setApplicationVersion(u"1.0.2"_qs);
+    QCoreApplication::setOrganizationDomain(u"velmora.example"_qs);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

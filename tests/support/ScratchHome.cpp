@@ -1,0 +1,22 @@
+#include "ScratchHome.h"
+
+#include "Literals.h"
+#include <QDir>
+#include <QFile>
+
+ScratchHome::ScratchHome()
+    : m_dir(QDir::tempPath() + u"/calderin-test-XXXXXX"_qs)
+{
+    const QByteArray home = QFile::encodeName(m_dir.path());
+    const QString runtime = m_dir.filePath(u"run"_qs);
+    QDir().mkpath(runtime);
+    QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("HOME", home);
+    qputenv("XDG_CONFIG_HOME", home + "/.config");
+    qputenv("XDG_DATA_HOME", home + "/.local/share");
+    qputenv("XDG_CACHE_HOME", home + "/.cache");
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
