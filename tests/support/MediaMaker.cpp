@@ -46,7 +46,8 @@ ToolResult runTool(const QString &program, const QStringList &arguments, int lim
 
 bool ffmpeg(const QStringList &arguments)
 {
-    return succeeded(u"ffmpeg"_qs, QStringList {u"-nostdin"_qs, u"-y"_qs, u"-v"_qs, u"error"_qs} + arguments);
+    return succeeded(
+        u"ffmpeg"_qs, QStringList {u"-nostdin"_qs, u"-y"_qs, u"-v"_qs, u"error"_qs} + arguments);
 }
 
 bool sox(const QStringList &arguments)
@@ -95,7 +96,8 @@ QByteArray bytesOf(const QString &file)
 bool writeFile(const QString &file, const QByteArray &bytes)
 {
     QFile output(file);
-    return output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size() && output.flush();
+    return output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size()
+        && output.flush();
 }
 
 bool waitFor(const std::function<bool()> &condition, int limitMs)

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <functional>
 
 /// Makers of real media and runners of independent tools, for the tests.
 namespace MediaMaker {
@@ -32,7 +32,8 @@ QString probe(const QString &file, const QString &entries);
 
 /// The file's audio as FFmpeg's own program decodes it: interleaved samples in the raw format
 /// ("s16le", "s32le", "f32le"). Empty if it can't be decoded.
-QByteArray decode(const QString &file, const QString &rawFormat, int sampleRate = 0, int channels = 0);
+QByteArray decode(
+    const QString &file, const QString &rawFormat, int sampleRate = 0, int channels = 0);
 
 /// The SHA-256 of a file's bytes, in hexadecimal; empty if it can't be read.
 QByteArray hashOfFile(const QString &file);
