@@ -1,0 +1,16 @@
+#pragma once
+
+class QPushButton;
+
+namespace QMWidgets {
+
+/// Small helpers of the dialogs.
+class Common
+{
+public:
+    /// Binds a button to the style sheet's look of dialog buttons: object name "PushButton", flat,
+    /// at least 32 pixels high.
+    static void applyPushButtonDetails(QPushButton *pcmd);
+};
+
+} // namespace QMWidgets
