@@ -1,0 +1,95 @@
+#include "MediaSearchDialog.h"
+
+#include "ElidedLabel.h"
+#include "Literals.h"
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+namespace QMMultiMedia {
+
+MediaSearchDialog::MediaSearchDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(u"MediaSearchDialog"_qs);
+    auto *title = new QLabel(
+        u"<CENTER><H2>Searching for the media files.<br>Please, wait...</H2></CENTER>"_qs, this);
+    m_plblFile = new ElidedLabel(this);
+    m_plblCounters = new QLabel(this);
+    auto *cancel = new QPushButton(tr("&Cancel"), this);
+    cancel->setObjectName(u"SearchStopButton"_qs);
+    connect(cancel, &QPushButton::clicked, this, &MediaSearchDialog::slotCancel);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(title);
+    layout->addWidget(m_plblFile);
+    layout->addWidget(m_plblCounters);
+    layout->addWidget(cancel);
+    showProgress(QString());
+}
+
+void MediaSearchDialog::setUrls(const QList<QUrl> &urls)
+{
+    MediaScan::setUrls(urls);
+    m_bSkipStart = false;
+}
+
+void MediaSearchDialog::slotStart()
+{
+    if (m_bSearching || m_bSkipStart) {
+        m_bSkipStart = false;
+        return;
+    }
+    {
+        const QScopedValueRollback<bool> searching(m_bSearching, true);
+        search();
+    }
+    accept();
+}
+
+void MediaSearchDialog::slotCancel()
+{
+    cancel();
+    if (!m_bSearching) {
+        m_bSkipStart = true;
+        reset();
+    }
+    QDialog::reject();
+}
+
+void MediaSearchDialog::reject()
+{
+    slotCancel();
+}
+
+bool MediaSearchDialog::isMediaFile(const QString &file)
+{
+    return MediaScan::isMediaFile(file);
+}
+
+void MediaSearchDialog::fileSeen(const QString &file)
+{
+    if (m_nFiles < 5 || m_nFiles % 10 == 0) {
+        showProgress(file);
+    }
+}
+
+void MediaSearchDialog::breathe()
+{
+    QCoreApplication::processEvents();
+}
+
+void MediaSearchDialog::showProgress(const QString &file)
+{
+    m_plblFile->setText(file);
+    m_plblCounters->setText(
+        u"<H3>Video Files: %1<BR>Audio Files: %2<BR>Image Files: %3<BR>Text Files: %4<BR>"
+        "Other Files: %5<BR></H3>"_qs.arg(m_lstVideo.size())
+            .arg(m_lstAudio.size())
+            .arg(m_lstArtwork.size())
+            .arg(m_lstText.size())
+            .arg(m_lstUnsuported.size()));
+}
+
+}
