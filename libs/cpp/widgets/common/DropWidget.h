@@ -45,8 +45,6 @@ protected:
     void dropEvent(QDropEvent *pe) override;
 
 private:
-    void handOver(const QList<QUrl> &lst);
-
     QList<QUrl> m_lstUrls;
     QLabel *m_plblArea = nullptr;
     QPushButton *m_pcmdOpen = nullptr;

@@ -35,6 +35,7 @@ private:
 
     QPixmap m_pixmapRetina;
     QPixmap m_pixmapScaled;
+    QSize m_szScaledFor;
     Mode m_mode = Mode::KeepAspectRatio;
     double m_dOpacity = 1.0;
 };

@@ -57,9 +57,6 @@ public slots:
     void slotNoAll();
     void slotUserDefined();
 
-protected:
-    void showEvent(QShowEvent *pe) override;
-
 private:
     void createLabels(Icon icon, const QString &strText);
     void createButtons(int buttons, const QString &strUser);
