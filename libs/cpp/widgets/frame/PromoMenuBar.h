@@ -76,9 +76,15 @@ private:
     void createLayout();
     void connectButtons();
     QPushButton *createButton(const QString &strName, const QString &strToolTip);
-    void prepareButton(QPushButton *pcmd, const QString &strName, const QString &strToolTip);
+    static void prepareButton(QPushButton *pcmd, const QString &strName, const QString &strToolTip);
 
-    void addAppItems(const QStringList &lstKeys);
+    /// lstNames: keys without the family's name in front.
+    void addAppItems(const QStringList &lstNames);
+    void addGraphicsMenuItems();
+    void addPhotoMenuItems();
+    void addDeveloperMenuItems();
+    void addAudioMenuItems();
+    void addMusicMenuItems();
     void addGuitarMenuItems();
     void addBassMenuItems();
     void addUkuleleMenuItems();
@@ -88,6 +94,7 @@ private:
     void addPianoMenuItems();
     void addViolinMenuItems();
     void addMusicInstrumentMenuItems();
+    void addInstrumentClosingItems();
 
     QPushButton *m_pcmdIntro = nullptr;
     QPushButton *m_pcmdRate = nullptr;
