@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Buffer.h"
+
+namespace QMMultiMedia {
+
+/// Bytes as they lie in a file.
+class RawBuffer : public Buffer<char>
+{
+public:
+    using Buffer<char>::Buffer;
+};
+
+}
