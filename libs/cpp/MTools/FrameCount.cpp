@@ -18,19 +18,19 @@ constexpr int phases = 4;
 
 // 3:2 pulldown, a column for each phase: the video frame of a film frame, and twice the film frame
 // plus the field of a video frame (-1: the field before film frame 0).
-constexpr std::array<std::array<int, phases>, filmRows> videoOfFilm {{{0, 0, 1, 1}, {1, 2, 2, 2},
-    {3, 3, 3, 3}, {4, 4, 4, 5}, {5, 5, 6, 6}, {6, 7, 7, 7}, {8, 8, 8, 8}, {9, 9, 9, 10},
-    {10, 10, 11, 11}, {11, 12, 12, 12}, {13, 13, 13, 13}, {14, 14, 14, 15}, {15, 15, 16, 16},
-    {16, 17, 17, 17}, {18, 18, 18, 18}, {19, 19, 19, 20}, {20, 20, 21, 21}, {21, 22, 22, 22},
-    {23, 23, 23, 23}, {24, 24, 24, 25}, {25, 25, 26, 26}, {26, 27, 27, 27}, {28, 28, 28, 28},
-    {29, 29, 29, 0}}};
-constexpr std::array<std::array<int, phases>, videoRows> filmFieldOfVideo {{{0, 0, -1, -1},
-    {2, 1, 0, 0}, {3, 2, 2, 2}, {4, 4, 4, 4}, {6, 6, 6, 5}, {8, 8, 7, 6}, {10, 9, 8, 8},
-    {11, 10, 10, 10}, {12, 12, 12, 12}, {14, 14, 14, 13}, {16, 16, 15, 14}, {18, 17, 16, 16},
-    {19, 18, 18, 18}, {20, 20, 20, 20}, {22, 22, 22, 21}, {24, 24, 23, 22}, {26, 25, 24, 24},
-    {27, 26, 26, 26}, {28, 28, 28, 28}, {30, 30, 30, 29}, {32, 32, 31, 30}, {34, 33, 32, 32},
-    {35, 34, 34, 34}, {36, 36, 36, 36}, {38, 38, 38, 37}, {40, 40, 39, 38}, {42, 41, 40, 40},
-    {43, 42, 42, 42}, {44, 44, 44, 44}, {46, 46, 46, 45}}};
+constexpr std::array<std::array<int, phases>, filmRows> videoOfFilm {
+    {{0, 0, 1, 1}, {1, 2, 2, 2}, {3, 3, 3, 3}, {4, 4, 4, 5}, {5, 5, 6, 6}, {6, 7, 7, 7},
+        {8, 8, 8, 8}, {9, 9, 9, 10}, {10, 10, 11, 11}, {11, 12, 12, 12}, {13, 13, 13, 13},
+        {14, 14, 14, 15}, {15, 15, 16, 16}, {16, 17, 17, 17}, {18, 18, 18, 18}, {19, 19, 19, 20},
+        {20, 20, 21, 21}, {21, 22, 22, 22}, {23, 23, 23, 23}, {24, 24, 24, 25}, {25, 25, 26, 26},
+        {26, 27, 27, 27}, {28, 28, 28, 28}, {29, 29, 29, 0}}};
+constexpr std::array<std::array<int, phases>, videoRows> filmFieldOfVideo {
+    {{0, 0, -1, -1}, {2, 1, 0, 0}, {3, 2, 2, 2}, {4, 4, 4, 4}, {6, 6, 6, 5}, {8, 8, 7, 6},
+        {10, 9, 8, 8}, {11, 10, 10, 10}, {12, 12, 12, 12}, {14, 14, 14, 13}, {16, 16, 15, 14},
+        {18, 17, 16, 16}, {19, 18, 18, 18}, {20, 20, 20, 20}, {22, 22, 22, 21}, {24, 24, 23, 22},
+        {26, 25, 24, 24}, {27, 26, 26, 26}, {28, 28, 28, 28}, {30, 30, 30, 29}, {32, 32, 31, 30},
+        {34, 33, 32, 32}, {35, 34, 34, 34}, {36, 36, 36, 36}, {38, 38, 38, 37}, {40, 40, 39, 38},
+        {42, 41, 40, 40}, {43, 42, 42, 42}, {44, 44, 44, 44}, {46, 46, 46, 45}}};
 
 bool isDropRate(float fps)
 {
@@ -155,7 +155,8 @@ void applyPulldown(Timecode *timecode, int offset, int phase)
     timecode->carrySecond();
 }
 
-QString formatted(int hours, char first, int minutes, char second, int seconds, char third, int frames)
+QString formatted(
+    int hours, char first, int minutes, char second, int seconds, char third, int frames)
 {
     return QString::asprintf(
         "%02d%c%02d%c%02d%c%02d", hours, first, minutes, second, seconds, third, frames);
@@ -279,8 +280,8 @@ QString FrameCount::timecodeFromFrameCount(
     Timecode timecode;
     timecodeFromFrameCount(&timecode.hours, &timecode.minutes, &timecode.seconds, &timecode.frames,
         allowFullDay, 0, pulldown, phase);
-    return timecodeToString(timecode.hours, timecode.minutes, timecode.seconds, timecode.frames,
-        isDropRate(m_fps));
+    return timecodeToString(
+        timecode.hours, timecode.minutes, timecode.seconds, timecode.frames, isDropRate(m_fps));
 }
 
 QString FrameCount::timecodeToString(
@@ -340,8 +341,9 @@ unsigned int FrameCount::calcSmpteTimecode()
     Timecode timecode;
     timecodeFromFrameCount(
         &timecode.hours, &timecode.minutes, &timecode.seconds, &timecode.frames, false);
-    const QByteArray text = QString::asprintf("%02d:%02d:%02d:%02d", timecode.hours,
-        timecode.minutes, timecode.seconds, timecode.frames).toLatin1();
+    const QByteArray text = QString::asprintf(
+        "%02d:%02d:%02d:%02d", timecode.hours, timecode.minutes, timecode.seconds, timecode.frames)
+                                .toLatin1();
     const auto digit = [&text](int position, unsigned int mask, unsigned int shift) {
         return (static_cast<unsigned int>(text.at(position) - '0') & mask) << shift;
     };

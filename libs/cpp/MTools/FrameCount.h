@@ -8,8 +8,8 @@ namespace MTools {
 /// A position in video time: a count of frames at a frame rate.
 ///
 /// Converts to and from hours, minutes, seconds and frames, their text and the packed SMPTE form.
-/// 29.97 and 23.98 frames a second are counted drop-frame. "Pulldown" is the 3:2 pulldown between 24
-/// film frames and 30 video frames; its phase is 1 to 4.
+/// 29.97 and 23.98 frames a second are counted drop-frame. "Pulldown" is the 3:2 pulldown between
+/// 24 film frames and 30 video frames; its phase is 1 to 4.
 class FrameCount
 {
 public:
@@ -23,8 +23,8 @@ public:
     FrameCount(int hours, int minutes, int seconds, int frames, float fps, bool pulldown = false,
         int phase = 1, int *field = nullptr);
     /// The count of a packed SMPTE timecode; see setSmpteTimecode.
-    FrameCount(float fps, unsigned int smpte, bool pulldown = false, int phase = 1,
-        int *field = nullptr);
+    FrameCount(
+        float fps, unsigned int smpte, bool pulldown = false, int phase = 1, int *field = nullptr);
 
     /// The count in frames; -1, with a line in the log, if it may not be read.
     long long frame() const;
@@ -42,8 +42,8 @@ public:
 
     /// The timecode of the count; four zeros at a rate of 0.
     ///
-    /// Counts outside of one day are brought into it; allowFullDay lets 24:00:00:00 stand. offset is
-    /// added to the frame number with pulldown only.
+    /// Counts outside of one day are brought into it; allowFullDay lets 24:00:00:00 stand. offset
+    /// is added to the frame number with pulldown only.
     void timecodeFromFrameCount(int *hours, int *minutes, int *seconds, int *frames,
         bool allowFullDay, int offset = 0, bool pulldown = false, int phase = 1) const;
     /// The timecode as text, "hh:mm:ss:ff", or "hh;mm;ss;ff" at a drop rate; empty at a rate of 0.
@@ -53,16 +53,16 @@ public:
         bool rateMark = false) const;
 
     QString timecodeToString(int hours, int minutes, int seconds, int frames, bool drop) const;
-    /// With rateMark the last separator shows the rate: ";" drop, "+" 24, ":" 25 and 30; at any other
-    /// rate the text ends behind the seconds.
+    /// With rateMark the last separator shows the rate: ";" drop, "+" 24, ":" 25 and 30; at any
+    /// other rate the text ends behind the seconds.
     static QString timecodeToString(
         int hours, int minutes, int seconds, int frames, bool drop, float fps, bool rateMark);
 
     /// Takes rate and count from a packed timecode (bit 6: drop-frame).
     ///
     /// Other rates than 24, 23.98, 25, 29.97 and 30 count as 0, at which the count isn't known.
-    void setSmpteTimecode(unsigned int smpte, float fps, bool pulldown = false, int phase = 1,
-        int *field = nullptr);
+    void setSmpteTimecode(
+        unsigned int smpte, float fps, bool pulldown = false, int phase = 1, int *field = nullptr);
     /// The packed form, computed when needed; 0, with a line in the log, if the count isn't known.
     unsigned int smpteTimecode();
     /// Computes the packed form anew. The drop-frame flag isn't set by it.

@@ -11,11 +11,10 @@ namespace MTools {
 
 /// A shared holder of an object of its own, counted by a plain number.
 ///
-/// The count isn't atomic: a handle and its copies belong to one thread. A null handle has no control
-/// record; dereferencing it throws Error("Null handle"). The last handle deletes the object through
-/// its (virtual) destructor.
-template <typename T>
-class Handle
+/// The count isn't atomic: a handle and its copies belong to one thread. A null handle has no
+/// control record; dereferencing it throws Error("Null handle"). The last handle deletes the object
+/// through its (virtual) destructor.
+template <typename T> class Handle
 {
 public:
     Handle() = default;

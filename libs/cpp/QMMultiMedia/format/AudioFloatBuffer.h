@@ -9,8 +9,8 @@ namespace QMMultiMedia {
 class AudioFloatBuffer
 {
 public:
-    /// frameSize is the number of samples in a frame. With an argument below 1 (or more samples than
-    /// an int counts) the buffer is empty: size 0 and no array.
+    /// frameSize is the number of samples in a frame. With an argument below 1 (or more samples
+    /// than an int counts) the buffer is empty: size 0 and no array.
     AudioFloatBuffer(int numFrames, int frameSize);
     AudioFloatBuffer(const AudioFloatBuffer &other);
     AudioFloatBuffer &operator=(const AudioFloatBuffer &other);
@@ -24,7 +24,8 @@ public:
     float *data() { return m_pData.get(); }
     const float *data() const { return m_pData.get(); }
 
-    /// Keeps the samples up to the smaller size and clears what is new; the same count does nothing.
+    /// Keeps the samples up to the smaller size and clears what is new; the same count does
+    /// nothing.
     void resize(int numFrames);
     /// Copies frames of a buffer whose frames aren't larger; samples that it lacks are cleared.
     ///
@@ -37,8 +38,8 @@ public:
     void move(int frames);
 
     /// Writes samples of 16 bits in the top of 32; surplus channels are skipped or cleared.
-    static void convertFloatTo32(const float *source, int *dest, int numFrames, int sourceFrameSize,
-        int destFrameSize);
+    static void convertFloatTo32(
+        const float *source, int *dest, int numFrames, int sourceFrameSize, int destFrameSize);
     /// The opposite way, into a new buffer.
     static MTools::Handle<AudioFloatBuffer> convert32ToFloat(
         const int *source, int numFrames, int sourceFrameSize, int destFrameSize);

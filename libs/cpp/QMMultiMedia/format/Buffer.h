@@ -8,8 +8,7 @@
 namespace QMMultiMedia {
 
 /// An array of elements with a stream's format; owned, not cleared when it is made.
-template <typename T>
-class Buffer : public AudioIO
+template <typename T> class Buffer : public AudioIO
 {
 public:
     /// size counts elements; below 1 the buffer is empty and has no array.

@@ -6,15 +6,13 @@ namespace QMMultiMedia {
 
 namespace {
 
-template <typename T>
-T readValue(std::FILE *file)
+template <typename T> T readValue(std::FILE *file)
 {
     T value = 0;
     return std::fread(&value, sizeof value, 1, file) == 1 ? value : T(0);
 }
 
-template <typename T>
-int writeValue(T value, std::FILE *file)
+template <typename T> int writeValue(T value, std::FILE *file)
 {
     return static_cast<int>(std::fwrite(&value, sizeof value, 1, file));
 }

@@ -9,8 +9,7 @@ namespace {
 
 const QStringList &codecNames()
 {
-    static const QStringList names {
-        u"WAV"_qs, u"AIFF"_qs, u"MPEG4ACC"_qs, u"CAF"_qs, u"FLAC"_qs};
+    static const QStringList names {u"WAV"_qs, u"AIFF"_qs, u"MPEG4ACC"_qs, u"CAF"_qs, u"FLAC"_qs};
     return names;
 }
 

@@ -9,7 +9,14 @@ class MediaCommon
 {
 public:
     /// Values of mediaType().
-    enum MediaType : int { Audio = 0, Video = 1, Image = 2, Document = 4, Other = 5 };
+    enum MediaType : int
+    {
+        Audio = 0,
+        Video = 1,
+        Image = 2,
+        Document = 4,
+        Other = 5
+    };
 
     /// One of MediaType; the case of the suffix doesn't matter.
     static int mediaType(const QString &path);

@@ -7,7 +7,8 @@ class Settings
 {
 public:
     /// Values of fmt: how the samples lie in a file.
-    enum Format : short {
+    enum Format : short
+    {
         Query = 0,
         MuLaw = 1,
         ALaw = 2,

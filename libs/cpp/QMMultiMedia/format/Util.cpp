@@ -1,10 +1,12 @@
 #include "Util.h"
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <QtEndian>
+#include <type_traits>
 
 namespace QMMultiMedia {
 
@@ -15,13 +17,16 @@ constexpr unsigned int topBit = 0x80000000U;
 
 // Limiting before the conversion keeps the loops free of branches, so that they vectorise; the
 // comparisons are written so that a value that isn't a number takes the lower limit.
-template <typename T>
-inline void floatToSigned(const float *source, T *dest, int n, float scale, float limit)
+inline int limitedToInt(float scaled, float limit)
+{
+    const float high = scaled > -limit ? scaled : -limit;
+    return static_cast<int>(high < limit ? high : limit);
+}
+
+inline void floatToSigned(const float *source, int *dest, int n, float scale, float limit)
 {
     for (int i = n - 1; i >= 0; --i) {
-        const float scaled = source[i] * scale;
-        const float high = scaled > -limit ? scaled : -limit;
-        dest[i] = static_cast<T>(static_cast<int>(high < limit ? high : limit));
+        dest[i] = limitedToInt(source[i] * scale, limit);
     }
 }
 
@@ -43,8 +48,7 @@ inline void wordToFloat(const int *source, float *dest, int n)
     }
 }
 
-template <typename T, bool Swap>
-inline T loaded(const char *bytes)
+template <typename T, bool Swap> inline T loaded(const char *bytes)
 {
     T value;
     std::memcpy(&value, bytes, sizeof value);
@@ -54,23 +58,21 @@ inline T loaded(const char *bytes)
 template <typename T, bool Swap>
 inline void rawToFloat(const char *source, float *dest, int n, float scale)
 {
-    for (int i = n - 1; i >= 0; --i) {
+    for (int i = 0; i < n; ++i) {
         const auto value = loaded<T, Swap>(source + static_cast<std::ptrdiff_t>(i) * sizeof(T));
         dest[i] = static_cast<float>(static_cast<std::make_signed_t<T>>(value)) * scale;
     }
 }
 
-template <typename T, bool Swap>
-inline void rawToWord(const char *source, int *dest, int n)
+template <typename T, bool Swap> inline void rawToWord(const char *source, int *dest, int n)
 {
-    for (int i = n - 1; i >= 0; --i) {
+    for (int i = 0; i < n; ++i) {
         dest[i] = static_cast<int>(
             loaded<T, Swap>(source + static_cast<std::ptrdiff_t>(i) * sizeof(T)));
     }
 }
 
-template <typename T, bool Swap>
-inline void wordToRaw(const int *source, char *dest, int bytes)
+template <typename T, bool Swap> inline void wordToRaw(const int *source, char *dest, int bytes)
 {
     constexpr int width = sizeof(T);
     const int n = bytes / width;
@@ -93,8 +95,7 @@ inline unsigned int byteAt(const char *bytes, std::ptrdiff_t index)
 }
 
 /// The three bytes of sample i in the top of a word.
-template <bool LittleEndian>
-inline unsigned int word24(const char *source, int i)
+template <bool LittleEndian> inline unsigned int word24(const char *source, int i)
 {
     const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(i) * 3;
     const unsigned int first = byteAt(source, at);
@@ -104,18 +105,16 @@ inline unsigned int word24(const char *source, int i)
                         : first << 24U | middle << 16U | last << 8U;
 }
 
-template <bool LittleEndian>
-inline void raw24ToFloat(const char *source, float *dest, int n)
+template <bool LittleEndian> inline void raw24ToFloat(const char *source, float *dest, int n)
 {
-    for (int i = n - 1; i >= 0; --i) {
+    for (int i = 0; i < n; ++i) {
         dest[i] = static_cast<float>(static_cast<int>(word24<LittleEndian>(source, i))) * fullScale;
     }
 }
 
-template <bool LittleEndian>
-inline void raw24ToWord(const char *source, int *dest, int n)
+template <bool LittleEndian> inline void raw24ToWord(const char *source, int *dest, int n)
 {
-    for (int i = n - 1; i >= 0; --i) {
+    for (int i = 0; i < n; ++i) {
         dest[i] = static_cast<int>(word24<LittleEndian>(source, i) >> 8U);
     }
 }
@@ -136,7 +135,10 @@ int Util::convertFloatTo16(const float *source, int *dest, int n)
 
 int Util::convertFloatToShort16(const float *source, short *dest, int n)
 {
-    floatToSigned(source, dest, n, 32768.0f, 32767.0f);
+    // Upwards: what is written is narrower than what is read.
+    for (int i = 0; i < n; ++i) {
+        dest[i] = static_cast<short>(limitedToInt(source[i] * 32768.0f, 32767.0f));
+    }
     return 0;
 }
 
@@ -317,8 +319,8 @@ int Util::convert24ToRaw(const int *source, char *dest, int n)
         const auto b = static_cast<std::uint32_t>(source[1]);
         const auto c = static_cast<std::uint32_t>(source[2]);
         const auto d = static_cast<std::uint32_t>(source[3]);
-        const std::uint32_t words[3] = {(a & 0xFFFFFFU) | b << 24U,
-            (b >> 8U & 0xFFFFU) | c << 16U, (c >> 16U & 0xFFU) | d << 8U};
+        const std::uint32_t words[3] = {(a & 0xFFFFFFU) | b << 24U, (b >> 8U & 0xFFFFU) | c << 16U,
+            (c >> 16U & 0xFFU) | d << 8U};
         std::memcpy(dest, words, sizeof words);
         source += 4;
         dest += 12;

@@ -4,9 +4,10 @@ namespace QMMultiMedia {
 
 /// Conversions of samples between floats (nominally -1.0 to 1.0), integers and the bytes of files.
 ///
-/// All of them return 0 but convertFromIeeeExtended. Values are cut towards zero: nothing dithers or
-/// rounds. A float that isn't a number becomes the lower limit. Conversions between float and int
-/// run from the last sample to the first, so that destination and source may be the same memory.
+/// All of them return 0 but convertFromIeeeExtended. Values are cut towards zero: nothing dithers
+/// or rounds. A float that isn't a number becomes the lower limit. Conversions between float and
+/// int run from the last sample to the first, so that destination and source may be the same
+/// memory.
 class Util
 {
 public:
