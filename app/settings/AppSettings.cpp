@@ -6,31 +6,19 @@
 
 namespace AppSettings {
 
-QVariant read(const char *key, const QVariant &standard)
-{
-    const auto *application = QMWidgets::App::theApp();
-    return application != nullptr ? application->settingsValue(QLatin1String(key), standard)
-                                  : standard;
-}
-
-void write(const char *key, const QVariant &value)
-{
-    if (auto *application = QMWidgets::App::theApp()) {
-        application->setSettingsValue(QLatin1String(key), value);
-    }
-}
-
 namespace {
 
 template <typename T> T value(const Key<T> &key)
 {
-    return read(key.name, QVariant(key.standard)).template value<T>();
+    return QMWidgets::App::settingsValue(QLatin1String(key.name), QVariant(key.standard))
+        .template value<T>();
 }
 
 // Towards zero, as an int; what no int holds (a store edited by hand) counts as none.
 int wholeSeconds(const Key<int> &key)
 {
-    const float seconds = read(key.name, QVariant(key.standard)).toFloat();
+    const float seconds
+        = QMWidgets::App::settingsValue(QLatin1String(key.name), QVariant(key.standard)).toFloat();
     return seconds > -1e9F && seconds < 1e9F ? static_cast<int>(seconds) : 0;
 }
 

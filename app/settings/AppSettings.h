@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
 #include <QtGlobal>
-#include <QVariant>
 
 /// The conversion settings as the store holds them: each key with its default, and the rates that
 /// the dialog offers. Everything else asks the static accessors of AppSettingsDialog.
@@ -75,12 +73,5 @@ inline constexpr Rate BitRates[] = {
     {24000, QT_TRANSLATE_NOOP("AppSettingsDialog", "24 kbps")},
     {16000, QT_TRANSLATE_NOOP("AppSettingsDialog", "16 kbps")},
 };
-
-/// What the store holds under the key at this moment; the default without it or without an
-/// application object. From any thread.
-QVariant read(const char *key, const QVariant &standard);
-
-/// Writes a value to the store; nothing without an application object.
-void write(const char *key, const QVariant &value);
 
 }
