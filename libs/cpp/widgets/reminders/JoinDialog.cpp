@@ -1,0 +1,33 @@
+#include "JoinDialog.h"
+
+#include "Common.h"
+#include "JoinWidget.h"
+#include "Literals.h"
+
+#include <QBoxLayout>
+#include <QPushButton>
+
+namespace QMWidgets {
+
+JoinDialog::JoinDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName(u"Dialog"_qs);
+    setWindowTitle(tr("Join us"));
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    auto *pcmdClose = new QPushButton(tr("&Close"), this);
+    Common::applyPushButtonDetails(pcmdClose);
+    pcmdClose->setDefault(true);
+    connect(pcmdClose, &QPushButton::clicked, this, &JoinDialog::accept);
+
+    auto *playoutButtons = new QHBoxLayout;
+    playoutButtons->addStretch(1);
+    playoutButtons->addWidget(pcmdClose);
+    playoutButtons->addStretch(1);
+    auto *playout = new QVBoxLayout(this);
+    playout->addWidget(new JoinWidget(this), 1);
+    playout->addLayout(playoutButtons);
+    pcmdClose->setFocus();
+}
+
+} // namespace QMWidgets

@@ -1,0 +1,19 @@
+#include "NetworkButton.h"
+
+#include <QPushButton>
+
+namespace QMWidgets {
+
+void applyNetworkButtonProperties(
+    QPushButton *pcmd, const QString &strName, const QString &strToolTip)
+{
+    pcmd->setObjectName(strName);
+    pcmd->setFlat(true);
+    pcmd->setAutoDefault(false);
+    pcmd->setFixedSize(48, 48);
+    pcmd->setCursor(Qt::PointingHandCursor);
+    pcmd->setToolTip(strToolTip);
+    pcmd->setAccessibleName(strToolTip);
+}
+
+} // namespace QMWidgets

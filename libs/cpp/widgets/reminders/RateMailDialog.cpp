@@ -1,0 +1,39 @@
+#include "RateMailDialog.h"
+
+#include "Literals.h"
+
+#include <QBoxLayout>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+
+namespace QMWidgets {
+
+RateMailDialog::RateMailDialog(QWidget *parent)
+    : ReminderStateDialog(parent)
+{
+    setObjectName(u"Dialog"_qs);
+    setWindowTitle(tr("Feedback about \"%1\"").arg(QCoreApplication::applicationName()));
+    auto *plblText
+        = new QLabel(tr("Please rate it on the app store or send us a quick e-mail<br>and tell us "
+                        "what you didn't enjoy. <br>Your feedback will help us improve this app."),
+            this);
+    plblText->setAlignment(Qt::AlignCenter);
+    QPushButton *pcmdRate = createButton(tr("&Rate"), &RateMailDialog::slotRate);
+    pcmdRate->setObjectName(u"LikeButton"_qs);
+    QPushButton *pcmdMail = createButton(tr("&Write email"), &RateMailDialog::slotMail);
+    pcmdMail->setObjectName(u"DislikeButton"_qs);
+
+    auto *playoutTop = new QHBoxLayout;
+    playoutTop->addWidget(createLogo());
+    playoutTop->addWidget(plblText, 1);
+    auto *playoutButtons = new QHBoxLayout;
+    playoutButtons->addWidget(pcmdRate);
+    playoutButtons->addWidget(pcmdMail);
+    addLaterAndNever(playoutButtons);
+    auto *playout = new QVBoxLayout(this);
+    playout->addLayout(playoutTop, 1);
+    playout->addLayout(playoutButtons);
+}
+
+} // namespace QMWidgets
