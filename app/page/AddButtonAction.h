@@ -18,7 +18,6 @@ public:
 
     /// Takes a mouse event inside the button; all other events are passed over.
     void event(QEvent *event, const QModelIndex &index);
-    using QAction::event;
 
     /// Where the button lies, in the coordinates of the view's viewport.
     void setGeometry(const QRect &rect);
@@ -29,6 +28,9 @@ public:
 signals:
     /// The button was pressed: the row, and the top left corner of the button.
     void triggered(QModelIndex index, const QPoint &corner);
+
+protected:
+    using QAction::event;
 
 private:
     Q_DISABLE_COPY(AddButtonAction)

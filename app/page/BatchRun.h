@@ -53,7 +53,6 @@ private:
     bool m_pause = false; ///< as the user wants it; guarded by m_pauseMutex
     bool m_begun = false; ///< the worker's first signal has come; guarded by m_pauseMutex
     bool m_started = false;
-    bool m_stopped = false;
     bool m_over = false;
     bool m_awake = false;
 };

@@ -4,7 +4,9 @@
 #include <QListView>
 #include <QUrl>
 
-/// The list of tracks: a list view that files and folders can be dropped on.
+/// The list of tracks: a list view that files and folders can be dropped on. A drop is a copy.
+///
+/// Its rows are as wide as the viewport, whatever the delegate asks for: it never scrolls sideways.
 class ListView : public QListView
 {
     Q_OBJECT
@@ -20,7 +22,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    QStyleOptionViewItem viewOptions() const override;
 
 private:
     Q_DISABLE_COPY(ListView)

@@ -15,8 +15,8 @@ class BatchWorker;
 class ListView;
 class QComboBox;
 class QEventLoop;
-class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QMenu;
 class QPushButton;
 class QSlider;
@@ -40,6 +40,9 @@ class SimpleBookmark;
 ///
 /// All ways in which files reach the program end in slotFilesDropped(); a run begins in slotDoIt()
 /// and ends in slotDone(). Both wait in an event loop of their own while a scan or a run is on.
+///
+/// The members are spread over three sources: MainPage.cpp builds the page and keeps the
+/// destination, MainPageJob.cpp takes files in and runs them, MainPagePreview.cpp plays tracks.
 class MainPage : public QMWidgets::PromoMainPage
 {
     Q_OBJECT
@@ -99,16 +102,16 @@ protected:
 private:
     Q_DISABLE_COPY(MainPage)
     void createDropArea();
-    QHBoxLayout *createDestinationRow();
+    QLayout *createDestinationRow();
     void createList();
     void createButtons();
-    void createModes();
-    void createPlayPage();
+    void createTimers();
+    void createPlayWidgets();
+    QWidget *createPlayPage();
     void createTrackMenu();
-    void createLayout(QHBoxLayout *destinationRow);
-    void createShortcuts();
-    void connectSignals();
-    void connectPreview();
+    void createLayout(QLayout *destinationRow);
+    void createKeys();
+    void connectPlayer();
     void restoreSize();
     void showDestination();
     void takeScanResults();
@@ -117,9 +120,13 @@ private:
     bool openDestination();
     static QMMultiMedia::MAudioFormat runFormat();
     void fillWorker(BatchWorker *worker);
+    BatchRun *createRun();
     void connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop);
-    void startRun(BatchRun *run, BatchDialog *dialog);
+    BatchRun *runBefore(BatchRun *run) const;
+    void startInTurn(BatchRun *run);
+    void tellUnreadableNames();
     static QString sandboxToRealDir(const QString &path);
+    bool trackKeyPressed(int key);
 
     QMWidgets::DropWidget *m_pdropWidget = nullptr;
     QPushButton *m_pcmdSettings = nullptr;
@@ -132,7 +139,6 @@ private:
     QWidget *m_pwgtPlayPage = nullptr;
     QLabel *m_plblInfo = nullptr;
     QComboBox *m_pcbxDestination = nullptr;
-    QPushButton *m_pcmdBrowse = nullptr;
     QTimer *m_ptimerOpenFiles = nullptr;
     QTimer *m_ptimerPlayInfo = nullptr;
     QMenu *m_pmenuTrack = nullptr;
@@ -153,7 +159,7 @@ private:
     QVector<QString> m_textFiles;
     QVector<QString> m_unsuportedFiles;
 
-    BatchThread *m_pthread = nullptr; ///< of the current or last run; owned by its BatchRun
+    QPointer<BatchThread> m_pthread; ///< of the current or last run; owned by its BatchRun
     QPointer<BatchRun> m_prun; ///< the run that the dialog's buttons belong to
     QList<BatchRun *> m_lstRuns; ///< all runs that aren't over; children of the page
     bool m_bScanning = false;

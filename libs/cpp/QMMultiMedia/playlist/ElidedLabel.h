@@ -4,20 +4,33 @@
 
 namespace QMMultiMedia {
 
-/// A label of one line of plain text that is shortened in its middle where it is too long.
+/// A label of one line that is shortened in its middle where it is too long, so that its text
+/// doesn't decide the width of the window.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit ElidedLabel(QWidget *parent = nullptr);
+    enum class Kind
+    {
+        Plain, ///< plain text, whatever looks like markup in it
+        Heading ///< the HTML of a heading, which is drawn as one
+    };
 
-    /// Asks for the height of a line and for no width.
+    explicit ElidedLabel(Kind kind, QWidget *parent = nullptr);
+
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString plainText() const;
+    QFont drawnFont() const;
+    QSize sizeFor(int textWidth) const;
+
+    Kind m_kind;
 };
 
 }

@@ -15,7 +15,7 @@ MediaSearchDialog::MediaSearchDialog(QWidget *parent)
     setObjectName(u"MediaSearchDialog"_qs);
     auto *title = new QLabel(
         u"<CENTER><H2>Searching for the media files.<br>Please, wait...</H2></CENTER>"_qs, this);
-    m_plblFile = new ElidedLabel(this);
+    m_plblFile = new ElidedLabel(ElidedLabel::Kind::Plain, this);
     m_plblCounters = new QLabel(this);
     auto *cancel = new QPushButton(tr("&Cancel"), this);
     cancel->setObjectName(u"SearchStopButton"_qs);

@@ -1,0 +1,56 @@
+#include "ListView.h"
+
+#include "Literals.h"
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+namespace {
+
+bool holdsUrls(const QDropEvent *event)
+{
+    return event->mimeData()->hasFormat(u"text/uri-list"_qs);
+}
+
+}
+
+ListView::ListView(QWidget *parent)
+    : QListView(parent)
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUniformItemSizes(true);
+}
+
+void ListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (holdsUrls(event)) {
+        event->acceptProposedAction();
+    }
+}
+
+void ListView::dragMoveEvent(QDragMoveEvent *event)
+{
+    // For the drop indicator and the scrolling at the edges; its answer depends on the row.
+    QListView::dragMoveEvent(event);
+    if (holdsUrls(event)) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void ListView::dropEvent(QDropEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    QDragLeaveEvent leave;
+    dragLeaveEvent(&leave); // takes the indicator away and ends the scrolling
+    // A source that offered to move its files would delete them otherwise.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    emit dropped(urls);
+}
+
+QStyleOptionViewItem ListView::viewOptions() const
+{
+    QStyleOptionViewItem option = QListView::viewOptions();
+    option.rect.setWidth(0);
+    return option;
+}

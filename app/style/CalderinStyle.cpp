@@ -1,6 +1,0 @@
-#include "CalderinStyle.h"
-
-CalderinStyle::CalderinStyle(QObject *parent)
-    : QObject(parent)
-{
-}
