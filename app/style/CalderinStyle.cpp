@@ -1,0 +1,6 @@
+#include "CalderinStyle.h"
+
+CalderinStyle::CalderinStyle(QObject *parent)
+    : QObject(parent)
+{
+}
