@@ -1,0 +1,358 @@
+#include "BatchWorker.h"
+
+#include "App.h"
+#include "AppSettingsDialog.h"
+#include "ChunkEffects.h"
+#include "FreeName.h"
+#include "GeneralOutput.h"
+#include "Literals.h"
+#include "NativeAudioDecoder.h"
+#include "SignalScan.h"
+#include "ToolsCommon.h"
+
+#include <array>
+#include <cmath>
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QThread>
+
+namespace {
+
+/// Values of one pass over a file; the fades depend on this grain.
+constexpr int chunkSize = 32000;
+constexpr unsigned long pollMs = 500;
+/// The sample data of a WAV file ends here, in bits.
+constexpr qint64 maxBits = 0x7FFFFFFF8;
+
+using Chunk = std::array<float, chunkSize>;
+
+QString intermediateExtension()
+{
+    const QString name = QCoreApplication::applicationName().toLower();
+    if (name.contains(u"mp3"_qs)) {
+        return u".mp3"_qs;
+    }
+    return name.contains(u"flac"_qs) ? u".flac"_qs : u".wav"_qs;
+}
+
+}
+
+/// Files that are copied along, with the text that the dialog shows meanwhile.
+struct BatchWorker::CopyStage
+{
+    QVector<QString> files;
+    QString title;
+};
+
+BatchWorker::BatchWorker(QObject *parent)
+    : QObject(parent)
+    , m_settings {u"WAV"_qs, 44100, 2, 16, 128000, 3}
+    , m_pDecoder(new QMMultiMedia::NativeAudioDecoder(this))
+{
+}
+
+BatchWorker::~BatchWorker() = default;
+
+void BatchWorker::stop()
+{
+    m_stop = true;
+}
+
+void BatchWorker::pause(bool on)
+{
+    m_pause = on;
+}
+
+void BatchWorker::slotAppendError(const QString &line)
+{
+    m_errors += line;
+}
+
+void BatchWorker::slotDoWork()
+{
+    // The flags aren't cleared here: a stop or a pause that came before the start holds.
+    m_errors = QString();
+    m_done = 0;
+    m_receipts.clear();
+    const QString destination
+        = QMWidgets::App::settingsValue(u"DestinationPath"_qs, QMWidgets::App::musicDirectory(true))
+              .toString();
+    const int total = m_inputFiles.size() + copyStages().size();
+    const QString runFolder
+        = destination + QDateTime::currentDateTime().toString(u"yyyy-MM-dd_hh-mm-ss"_qs) + u"/"_qs;
+    QMWidgets::App::ensureDirExists(runFolder);
+
+    convertInputFiles(runFolder, total);
+    copySideFiles(runFolder, total);
+
+    if (!m_errors.isEmpty()) {
+        emit errorsLog(m_errors);
+    }
+    emit totalProgress(100);
+    m_stop = false;
+    m_pause = false;
+    emit finished(runFolder);
+}
+
+void BatchWorker::convertInputFiles(const QString &runFolder, int total)
+{
+    const QString extension = intermediateExtension();
+    for (int i = 0; i < m_inputFiles.size(); ++i) {
+        const QString &file = m_inputFiles.at(i);
+        m_nextInput = i + 1 < m_inputFiles.size() ? m_inputFiles.at(i + 1) : QString();
+        const QString output
+            = freeName(folderFor(file, runFolder), QFileInfo(file).completeBaseName(), extension);
+        m_receipt = RunReceipt();
+        m_receipt.source = file;
+        convert(file, output);
+        m_receipts.append(m_receipt);
+        if (m_stop) {
+            QFile::remove(output);
+            return;
+        }
+        ++m_done;
+        emitTotalProgress(total);
+    }
+}
+
+QVector<BatchWorker::CopyStage> BatchWorker::copyStages() const
+{
+    QVector<CopyStage> stages;
+    if (AppSettingsDialog::copyImagesActive() && !m_imageFiles.isEmpty()) {
+        stages.append({m_imageFiles, tr("COPYING IMAGE FILES")});
+    }
+    if (AppSettingsDialog::copyTextsActive() && !m_textFiles.isEmpty()) {
+        stages.append({m_textFiles, tr("COPYING TEXT FILES")});
+    }
+    if (AppSettingsDialog::copyEntireContentActive() && !m_unsuportedFiles.isEmpty()) {
+        stages.append({m_unsuportedFiles, tr("COPYING NON-CONVERTED CONTENT")});
+    }
+    return stages;
+}
+
+void BatchWorker::copySideFiles(const QString &runFolder, int total)
+{
+    for (const CopyStage &stage : copyStages()) {
+        if (m_stop) {
+            return;
+        }
+        emit fileProgress(0);
+        emit currentFile(stage.title);
+        copyFiles(stage.files, runFolder);
+        ++m_done;
+        emitTotalProgress(total);
+    }
+}
+
+void BatchWorker::emitTotalProgress(int total)
+{
+    emit totalProgress(
+        static_cast<int>(static_cast<float>(m_done) * 100.0f / static_cast<float>(total)));
+}
+
+QString BatchWorker::folderFor(const QString &file, const QString &runFolder)
+{
+    if (!AppSettingsDialog::folderStructureActive()) {
+        return runFolder;
+    }
+    // Never a path relative to the process: without a URL that applies it is the run's folder.
+    const QString mapped = newPathForForlderStructure(file, runFolder);
+    const QString folder = mapped.isEmpty() ? runFolder : mapped;
+    QMWidgets::App::ensureDirExists(folder);
+    return folder;
+}
+
+QString BatchWorker::newPathForForlderStructure(const QString &file, const QString &destination)
+{
+    using MTools::ToolsCommon;
+    const QString sourceFolder = ToolsCommon::normalizePath(QFileInfo(file).absolutePath());
+    QString result;
+    for (const QUrl &url : qAsConst(m_droppedUrls)) {
+        const QString dropped = ToolsCommon::normalizePath(url.toLocalFile());
+        QString folder = sourceFolder;
+        if (QFileInfo(dropped).isFile()) {
+            folder.remove(ToolsCommon::normalizePath(QFileInfo(dropped).absolutePath()));
+            result = destination + folder + u"/"_qs;
+        } else if (folder.startsWith(dropped)) {
+            const QStringList parts = dropped.split(u'/');
+            folder.remove(dropped);
+            result = destination + (parts.isEmpty() ? QString() : parts.last() + u"/"_qs) + folder
+                + u"/"_qs;
+        }
+    }
+    return result;
+}
+
+void BatchWorker::copyFiles(const QVector<QString> &files, const QString &destination)
+{
+    int done = 0;
+    for (const QString &file : files) {
+        const QFileInfo info(file);
+        const QString extension = info.suffix().isEmpty() ? QString() : u"."_qs + info.suffix();
+        const QString target
+            = freeName(folderFor(file, destination), info.completeBaseName(), extension);
+        // A named pipe or a device would block the run or never end.
+        if (info.isFile()) {
+            QFile::copy(file, target);
+        }
+        if (m_stop) {
+            return;
+        }
+        ++done;
+        emit fileProgress(
+            static_cast<int>(static_cast<float>(done) * 100.0f / static_cast<float>(files.size())));
+    }
+}
+
+bool BatchWorker::openDecoder(const QString &input)
+{
+    return m_pDecoder->setFile(
+        input, m_settings.sampleRate, m_settings.bitsPerSample, m_settings.channels);
+}
+
+void BatchWorker::initAudioFileInfo(const QString &input)
+{
+    m_numSamples = 0;
+    m_maxPeak = 0.0f;
+    m_firstAudible = 0;
+    m_lastAudible = 0;
+    openDecoder(input);
+    SignalScan scan;
+    Chunk chunk;
+    while (const int count = m_pDecoder->read(chunk.data(), chunkSize)) {
+        scan.add(chunk.data(), count);
+    }
+    m_pDecoder->finish();
+    m_numSamples = scan.numSamples();
+    m_maxPeak = scan.maxPeak();
+    m_firstAudible = scan.firstAudible();
+    m_lastAudible = scan.lastAudible();
+}
+
+void BatchWorker::convert(const QString &input, const QString &output)
+{
+    emit fileProgress(0);
+    emit currentFile(tr("ANALYZING"));
+    initAudioFileInfo(input);
+    if (!hasConvertibleLength(input) || !waitForFreeSpace(output) || m_stop) {
+        return;
+    }
+    emit currentFile(QFileInfo(input).completeBaseName());
+    convertDecoded(input, output);
+}
+
+bool BatchWorker::hasConvertibleLength(const QString &input)
+{
+    if (sizeInBits() >= maxBits) {
+        m_errors += tr("Can not convert, because the duration is to long. Please reduce the "
+                       "conversion sample rate and try again: ")
+            + input + u"\n"_qs;
+        return false;
+    }
+    if (m_numSamples == 0) {
+        m_errors += tr("Can not convert: ") + input + u"\n"_qs;
+        return false;
+    }
+    return true;
+}
+
+bool BatchWorker::hasFreeSpace(const QString &output) const
+{
+    const QStorageInfo storage(QFileInfo(output).absolutePath());
+    // A folder that isn't there has no storage; the output stage tells of it.
+    return !storage.isValid() || sizeInBits() / 8 < storage.bytesAvailable();
+}
+
+bool BatchWorker::waitForFreeSpace(const QString &output)
+{
+    while (!hasFreeSpace(output)) {
+        m_pause = true;
+        emit notEnoughtFreeSpace();
+        while (m_pause) {
+            if (m_stop) {
+                return false;
+            }
+            QThread::msleep(pollMs);
+        }
+    }
+    return true;
+}
+
+void BatchWorker::convertDecoded(const QString &input, const QString &output)
+{
+    GeneralOutput generalOutput(output, m_settings);
+    generalOutput.setMetaInfoFile(input);
+    connect(&generalOutput, &GeneralOutput::errorsLog, this, &BatchWorker::slotAppendError);
+
+    const qint64 perSecond = static_cast<qint64>(m_settings.sampleRate) * m_settings.channels;
+    ChunkEffects::Plan plan;
+    plan.numSamples = m_numSamples;
+    plan.channels = m_settings.channels;
+    plan.normalise = AppSettingsDialog::normalizationActive();
+    if (plan.normalise && m_maxPeak > 0.0f) {
+        plan.gain = static_cast<float>(AppSettingsDialog::normalization()) / 100.0f / m_maxPeak;
+    }
+    plan.fade = AppSettingsDialog::fadeInOutActive();
+    if (plan.fade) {
+        plan.fadeInSamples = AppSettingsDialog::fadeIn() * perSecond;
+        plan.fadeOutSamples = AppSettingsDialog::fadeOut() * perSecond;
+    }
+    plan.trim = AppSettingsDialog::trimSilenceActive();
+    plan.firstAudible = m_firstAudible;
+    plan.lastAudible = m_lastAudible;
+
+    openDecoder(input);
+    ChunkEffects effects(plan);
+    runSampleLoop(generalOutput, effects);
+    hintNextFile();
+    generalOutput.close();
+    m_pDecoder->finish();
+
+    m_receipt.lengthMs = perSecond > 0 ? m_numSamples * 1000 / perSecond : 0;
+    m_receipt.gainDb = plan.gain > 0.0f ? 20.0 * std::log10(static_cast<double>(plan.gain)) : 0.0;
+    m_receipt.tagsAsked = AppSettingsDialog::copyMetaTagsActive();
+    if (QFileInfo::exists(generalOutput.outputFile())) {
+        m_receipt.output = generalOutput.outputFile();
+    }
+}
+
+void BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
+{
+    Chunk chunk;
+    qint64 position = 0;
+    int lastPercent = 0;
+    for (;;) {
+        while (m_pause && !m_stop) {
+            QThread::msleep(pollMs);
+        }
+        const int count = m_pDecoder->read(chunk.data(), chunkSize);
+        if (count <= 0) {
+            return;
+        }
+        position += count;
+        const int percent = static_cast<int>(
+            static_cast<float>(position) * 100.0f / static_cast<float>(m_numSamples));
+        if (percent != lastPercent) {
+            lastPercent = percent;
+            emit fileProgress(percent);
+        }
+        const ChunkEffects::Result result = effects.process(chunk.data(), count);
+        if (result.count > 0) {
+            output.write(result.values, result.count);
+        }
+        if (result.last) {
+            return;
+        }
+    }
+}
+
+void BatchWorker::hintNextFile()
+{
+    if (m_nextInput.isEmpty() || m_stop) {
+        return;
+    }
+    m_pDecoder->hintNext(m_nextInput, m_settings.sampleRate, m_settings.bitsPerSample);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+/// What became of one source of a run, for the report at its end.
+struct RunReceipt
+{
+    QString source; ///< the path as it was given
+    QString output; ///< the finished file; empty if there is none
+    qint64 lengthMs = 0; ///< length of what was decoded
+    double gainDb = 0.0; ///< gain of the normalisation; 0 if it is off or the file is silent
+    bool tagsAsked = false; ///< tags were to be carried over
+};
