@@ -3,6 +3,7 @@
 #include "App.h"
 #include "AppSettingsDialog.h"
 #include "ChunkEffects.h"
+#include "ExtAudioFile.h"
 #include "FreeName.h"
 #include "GeneralOutput.h"
 #include "Literals.h"
@@ -59,6 +60,7 @@ BatchWorker::~BatchWorker() = default;
 void BatchWorker::stop()
 {
     m_stop = true;
+    ExtAudioFileDropHints();
 }
 
 void BatchWorker::pause(bool on)
@@ -92,6 +94,7 @@ void BatchWorker::slotDoWork()
         emit errorsLog(m_errors);
     }
     emit totalProgress(100);
+    ExtAudioFileForgetKept();
     m_stop = false;
     m_pause = false;
     emit finished(runFolder);
@@ -354,5 +357,7 @@ void BatchWorker::hintNextFile()
     if (m_nextInput.isEmpty() || m_stop) {
         return;
     }
-    m_pDecoder->hintNext(m_nextInput, m_settings.sampleRate, m_settings.bitsPerSample);
+    ExtAudioFileHint(QUrl::fromLocalFile(m_nextInput),
+        QMMultiMedia::NativeAudioDecoder::createClientFormat(
+            m_settings.sampleRate, m_settings.bitsPerSample));
 }

@@ -64,8 +64,10 @@ ConsoleArguments ConsoleArguments::parse(const QStringList &arguments)
 QString ConsoleArguments::help()
 {
     return u"Usage: calderin-m4a-batch [--destination DIR] PATH...\n"
-           "Converts audio files, the sound of videos and whole folders to M4A files, with the settings\n"
-           "of Calderin M4A. Every run makes a new folder below the destination; its path is the last\n"
+           "Converts audio files, the sound of videos and whole folders to M4A files, with the "
+           "settings\n"
+           "of Calderin M4A. Every run makes a new folder below the destination; its path is the "
+           "last\n"
            "line on the standard output. Progress and errors go to the standard error stream.\n"
            "\n"
            "  --destination DIR  where the folder of the run is made, instead of the stored one\n"
@@ -73,6 +75,7 @@ QString ConsoleArguments::help()
            "  --help, --version\n"
            "\n"
            "Ctrl-C finishes the file at hand and ends the run.\n"
-           "Exit status: 0 all converted; 1 some files failed; 2 wrong usage, nothing to convert or a\n"
+           "Exit status: 0 all converted; 1 some files failed; 2 wrong usage, nothing to convert "
+           "or a\n"
            "destination that can't be written; 3 not enough free space; 130 stopped.\n"_qs;
 }

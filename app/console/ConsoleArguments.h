@@ -19,8 +19,8 @@ struct ConsoleArguments
     QString destination; ///< ends in "/"; empty for the one of the settings
     QStringList paths; ///< absolute, in the order given
 
-    /// Reads the arguments behind the program's name. "--" ends the options, so that a path may begin
-    /// with a dash; a relative path is taken from the current folder.
+    /// Reads the arguments behind the program's name. "--" ends the options, so that a path may
+    /// begin with a dash; a relative path is taken from the current folder.
     static ConsoleArguments parse(const QStringList &arguments);
 
     /// The text of --help.

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QVector>
 
-/// The progress of a run on the standard error stream: on a terminal a bar that is drawn anew, with the
-/// time left from the speed so far; elsewhere a line a file.
+/// The progress of a run on the standard error stream: on a terminal a bar that is drawn anew, with
+/// the time left from the speed so far; elsewhere a line a file.
 class ConsoleProgress
 {
 public:

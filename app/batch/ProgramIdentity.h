@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// Who the program is; the same for the window and for the console.
+QString programOrganisation();
+QString programName();
+
+/// Sets version and domain, and puts the program's own folder first on the search path, so that the
+/// command "afconvert" finds the one beside it. After the application object was made.
+void initProgramIdentity();

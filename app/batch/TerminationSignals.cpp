@@ -1,0 +1,64 @@
+#include "TerminationSignals.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <QSocketNotifier>
+#include <unistd.h>
+
+namespace {
+
+std::array<int, 2> ends {-1, -1};
+
+void handle(int signalNumber)
+{
+    const int savedErrno = errno;
+    const auto byte = static_cast<char>(signalNumber);
+    if (::write(ends[1], &byte, 1) != 1) {
+        ::_exit(128 + signalNumber);
+    }
+    errno = savedErrno;
+}
+
+}
+
+TerminationSignals::TerminationSignals(QObject *parent)
+    : QObject(parent)
+{
+    if (::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return;
+    }
+    m_pnotifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
+    connect(m_pnotifier, &QSocketNotifier::activated, this, &TerminationSignals::slotReadable);
+    struct sigaction action
+    {
+    };
+    action.sa_handler = handle;
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    sigemptyset(&action.sa_mask);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        std::signal(number, SIG_DFL);
+    }
+    for (int &end : ends) {
+        if (end >= 0) {
+            ::close(end);
+            end = -1;
+        }
+    }
+}
+
+void TerminationSignals::slotReadable()
+{
+    char number = 0;
+    while (::read(ends[0], &number, 1) == 1) {
+        emit requested(number);
+    }
+}

@@ -1,0 +1,215 @@
+#include "ConsoleRun.h"
+
+#include "App.h"
+#include "AppSettingsDialog.h"
+#include "BatchWorker.h"
+#include "ConversionFormat.h"
+#include "Literals.h"
+#include "MediaScan.h"
+#include "Os.h"
+#include "PendingExports.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QUrl>
+#include <unistd.h>
+
+namespace {
+
+void say(const QString &line)
+{
+    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+}
+
+/// A folder that is missing will be made: then its nearest ancestor that exists has to take it.
+bool isWritableFolder(const QString &path)
+{
+    QFileInfo info(path);
+    while (!info.exists() && info.path() != info.filePath()) {
+        info.setFile(info.path());
+    }
+    return info.isDir()
+        && ::faccessat(
+               AT_FDCWD, QFile::encodeName(info.filePath()).constData(), W_OK | X_OK, AT_EACCESS)
+        == 0;
+}
+
+QString number(int count, const char *one, const char *many)
+{
+    return QString::number(count) + u" "_qs + QString::fromLatin1(count == 1 ? one : many);
+}
+
+/// The mean bit rate of a finished file in kbit/s, from its size: what it really came to.
+QString realBitRate(const RunReceipt &receipt)
+{
+    const qint64 bits = QFileInfo(receipt.output).size() * 8;
+    return QString::number(receipt.lengthMs > 0 ? bits / receipt.lengthMs : 0) + u" kbit/s"_qs;
+}
+
+}
+
+ConsoleRun::ConsoleRun(const ConsoleArguments &arguments)
+    : m_arguments(arguments)
+{
+}
+
+ConsoleRun::~ConsoleRun() = default;
+
+int ConsoleRun::exec()
+{
+    if (!prepareDestination() || !scan()) {
+        return NothingToDo;
+    }
+    convert();
+    waitForTags();
+    report();
+    if (m_noSpace) {
+        say(u"There is not enough free space for the conversion."_qs);
+        return NoFreeSpace;
+    }
+    if (m_stopped) {
+        return Stopped;
+    }
+    return m_errors.isEmpty() ? AllConverted : SomeFailed;
+}
+
+bool ConsoleRun::prepareDestination()
+{
+    if (!m_arguments.destination.isEmpty()) {
+        QMWidgets::App::overrideSettingsValue(u"DestinationPath"_qs, m_arguments.destination);
+    }
+    const QString destination = QMWidgets::App::settingsValue(
+        u"DestinationPath"_qs, QMWidgets::App::musicDirectory(false))
+                                    .toString();
+    if (isWritableFolder(destination)) {
+        return true;
+    }
+    say(u"calderin-m4a-batch: the destination can't be written: "_qs + destination);
+    return false;
+}
+
+bool ConsoleRun::scan()
+{
+    QList<QUrl> urls;
+    for (const QString &path : qAsConst(m_arguments.paths)) {
+        const QFileInfo info(path);
+        if (info.isDir() || info.isFile()) {
+            urls.append(QUrl::fromLocalFile(path));
+        } else {
+            m_missing.append(path);
+        }
+    }
+    QMMultiMedia::MediaScan scan;
+    scan.setUrls(urls);
+    scan.search();
+    m_files = (scan.audioFiles() + scan.videoFiles()).toVector();
+    if (scan.unreadableNames() > 0) {
+        say(u"Passed over, because the name isn't valid text: "_qs
+            + number(scan.unreadableNames(), "file", "files"));
+    }
+    for (const QString &path : qAsConst(m_missing)) {
+        const QString line = u"Can not convert: "_qs + path + u"\n"_qs;
+        m_errors += line;
+    }
+    if (m_files.isEmpty()) {
+        say(m_missing.isEmpty()
+                ? u"calderin-m4a-batch: there is nothing to convert"_qs
+                : u"calderin-m4a-batch: there is nothing to convert; no such file or folder: "_qs
+                    + m_missing.first());
+        return false;
+    }
+    BatchWorker *worker = m_thread.worker();
+    worker->setSettings(conversionFormat());
+    worker->setInputFiles(m_files);
+    worker->setImageFiles(scan.artworkFiles().toVector());
+    worker->setTextFiles(scan.textFiles().toVector());
+    worker->setUnsuportedFiles(scan.unsuportedFiles().toVector());
+    worker->setDroppedUrls(urls);
+    return true;
+}
+
+void ConsoleRun::convert()
+{
+    say(u"Converting "_qs + number(m_files.size(), "file", "files"));
+    m_pprogress = std::make_unique<ConsoleProgress>(m_files.size());
+    BatchWorker *worker = m_thread.worker();
+    QEventLoop loop;
+    connect(&m_thread, &QThread::started, worker, &BatchWorker::slotDoWork);
+    connect(worker, &BatchWorker::errorsLog, this, &ConsoleRun::slotErrors);
+    connect(worker, &BatchWorker::finished, this, &ConsoleRun::slotFinished);
+    connect(worker, &BatchWorker::finished, &loop, &QEventLoop::quit);
+    connect(worker, &BatchWorker::notEnoughtFreeSpace, this, &ConsoleRun::slotNoFreeSpace);
+    connect(worker, &BatchWorker::currentFile, this,
+        [this](const QString &text) { m_pprogress->setText(text); });
+    connect(worker, &BatchWorker::fileProgress, this,
+        [this](int percent) { m_pprogress->setFilePercent(percent); });
+    connect(worker, &BatchWorker::totalProgress, this,
+        [this](int percent) { m_pprogress->setTotalPercent(percent); });
+
+    Os::instance()->setDisableSleepMode(true);
+    m_thread.start();
+    loop.exec();
+    m_thread.quit();
+    m_thread.wait();
+    Os::instance()->setDisableSleepMode(false);
+    m_pprogress->finish();
+}
+
+void ConsoleRun::waitForTags()
+{
+    bool told = false;
+    PendingExports::waitForAll([&told](int left, qint64 elapsedMs) {
+        if (!told && elapsedMs >= 1000) {
+            told = true;
+            say(u"Finishing the tags of "_qs + number(left, "file", "files"));
+        }
+    });
+}
+
+void ConsoleRun::report() const
+{
+    for (const RunReceipt &receipt : m_thread.worker()->receipts()) {
+        if (receipt.output.isEmpty()) {
+            continue;
+        }
+        QString line = receipt.source + u" -> "_qs + receipt.output + u"  "_qs
+            + ConsoleProgress::clock((receipt.lengthMs + 500) / 1000) + u"  "_qs;
+        if (AppSettingsDialog::normalizationActive()) {
+            line += QString::asprintf("%+.1f dB  ", receipt.gainDb);
+        }
+        say(line + realBitRate(receipt));
+    }
+    if (!m_errors.isEmpty()) {
+        std::fputs(m_errors.toLocal8Bit().constData(), stderr);
+    }
+    std::printf("%s\n", QFile::encodeName(m_runFolder).constData());
+    std::fflush(stdout);
+}
+
+void ConsoleRun::slotTerminate(int)
+{
+    if (m_pprogress && !m_stopped) {
+        m_pprogress->note(u"Stopping behind the file at hand"_qs);
+    }
+    m_stopped = true;
+    m_thread.worker()->stop();
+}
+
+void ConsoleRun::slotErrors(const QString &log)
+{
+    m_errors += log;
+}
+
+void ConsoleRun::slotNoFreeSpace()
+{
+    m_noSpace = true;
+    m_thread.worker()->stop();
+}
+
+void ConsoleRun::slotFinished(const QString &runFolder)
+{
+    m_runFolder = runFolder;
+}

@@ -1,0 +1,8 @@
+#include "TranslationResources.h"
+
+#include <QtGlobal>
+
+void initTranslationResources()
+{
+    Q_INIT_RESOURCE(translations);
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Makes the compiled translations known to the resource system; once, before the language is set.
+void initTranslationResources();
