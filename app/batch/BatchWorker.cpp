@@ -316,7 +316,7 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
 
     m_receipt.lengthMs = perSecond > 0 ? m_numSamples * 1000 / perSecond : 0;
     m_receipt.gainDb = plan.gain > 0.0f ? 20.0 * std::log10(static_cast<double>(plan.gain)) : 0.0;
-    m_receipt.tagsAsked = AppSettingsDialog::copyMetaTagsActive();
+    m_receipt.tags = generalOutput.tagReceipt();
     if (QFileInfo::exists(generalOutput.outputFile())) {
         m_receipt.output = generalOutput.outputFile();
     }

@@ -107,4 +107,5 @@ void GeneralOutput::copyTags()
     QMMultiMedia::NativeMetaTags tags(nullptr);
     tags.readFrom(m_metaInfoFile);
     tags.writeTo(m_finalFile);
+    m_tagReceipt = tags.receipt();
 }

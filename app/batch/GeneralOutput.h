@@ -8,6 +8,7 @@
 
 namespace QMMultiMedia {
 class EncoderBase;
+class TagReceipt;
 class WaveOutput;
 }
 
@@ -38,6 +39,9 @@ public:
     /// The finished file after close(); the intermediate one before, or where nothing else is made.
     QString outputFile() const { return m_finalFile; }
 
+    /// What becomes of the tags, known when the export is over; null if none are carried over.
+    std::shared_ptr<const QMMultiMedia::TagReceipt> tagReceipt() const { return m_tagReceipt; }
+
 signals:
     /// One line of the error log, with its line end.
     void errorsLog(QString line);
@@ -55,4 +59,5 @@ private:
     std::unique_ptr<QMMultiMedia::WaveOutput> m_pWaveOutput;
     QString m_finalFile;
     std::unique_ptr<QMMultiMedia::EncoderBase> m_pEncoder;
+    std::shared_ptr<const QMMultiMedia::TagReceipt> m_tagReceipt;
 };

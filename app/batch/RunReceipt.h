@@ -1,5 +1,8 @@
 #pragma once
 
+#include "TagReceipt.h"
+
+#include <memory>
 #include <QString>
 #include <QtGlobal>
 
@@ -10,5 +13,6 @@ struct RunReceipt
     QString output; ///< the finished file; empty if there is none
     qint64 lengthMs = 0; ///< length of what was decoded
     double gainDb = 0.0; ///< gain of the normalisation; 0 if it is off or the file is silent
-    bool tagsAsked = false; ///< tags were to be carried over
+    /// What became of the tags; null if none were to be carried over. Complete when no export is pending.
+    std::shared_ptr<const QMMultiMedia::TagReceipt> tags;
 };

@@ -9,6 +9,7 @@
 
 int main(int argc, char **argv)
 {
+    ensureUtf8FileNames();
     // No window system is needed, and none is asked.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QMWidgets::App app(argc, argv, programOrganisation(), programName());

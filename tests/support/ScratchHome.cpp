@@ -11,6 +11,7 @@ ScratchHome::ScratchHome()
     const QString runtime = m_dir.filePath(u"run"_qs);
     QDir().mkpath(runtime);
     QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("LC_ALL", "C.UTF-8");
     qputenv("HOME", home);
     qputenv("XDG_CONFIG_HOME", home + "/.config");
     qputenv("XDG_DATA_HOME", home + "/.local/share");
