@@ -12,7 +12,7 @@ QString fittingName(QString base, const QString &tail)
 {
     const int room = maxNameBytes - static_cast<int>(QFile::encodeName(tail).size());
     while (!base.isEmpty() && QFile::encodeName(base).size() > room) {
-        base.chop(base.back().isLowSurrogate() && base.size() > 1 ? 2 : 1);
+        base.chop(base.at(base.size() - 1).isLowSurrogate() && base.size() > 1 ? 2 : 1);
     }
     return base + tail;
 }
