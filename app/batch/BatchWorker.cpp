@@ -354,7 +354,7 @@ void BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
 
 void BatchWorker::hintNextFile()
 {
-    if (m_nextInput.isEmpty() || m_stop) {
+    if (!m_readAhead || m_nextInput.isEmpty() || m_stop) {
         return;
     }
     ExtAudioFileHint(QUrl::fromLocalFile(m_nextInput),

@@ -38,6 +38,10 @@ public:
     /// Files and folders as the user gave them; the folder structure is rebuilt from them.
     void setDroppedUrls(const QList<QUrl> &urls) { m_droppedUrls = urls; }
 
+    /// Whether the next source is decoded while one is encoded (the default). For measurements: it
+    /// changes nothing but the time that a run takes.
+    void setReadAhead(bool on) { m_readAhead = on; }
+
     /// Ends the run behind the file at hand. Thread-safe; holds also when it comes before the
     /// start.
     void stop();
@@ -111,6 +115,7 @@ private:
     QString m_errors;
 
     int m_done = 0;
+    bool m_readAhead = true;
     QString m_nextInput; ///< the source behind the one at hand, to be read ahead; empty for none
     RunReceipt m_receipt; ///< of the source at hand
     QVector<RunReceipt> m_receipts;

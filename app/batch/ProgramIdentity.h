@@ -10,6 +10,6 @@ QString programName();
 /// command "afconvert" finds the one beside it. After the application object was made.
 void initProgramIdentity();
 
-/// File names are UTF-8 here, but Qt takes the locale's encoding for them: where the locale is a plain
-/// "C", the character type becomes that of C.UTF-8. Before the application object is made.
+/// File names are UTF-8 here, but Qt takes the locale's encoding for them: where the locale is a
+/// plain "C", the character type becomes that of C.UTF-8. Before the application object is made.
 void ensureUtf8FileNames();

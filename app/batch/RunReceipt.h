@@ -13,6 +13,7 @@ struct RunReceipt
     QString output; ///< the finished file; empty if there is none
     qint64 lengthMs = 0; ///< length of what was decoded
     double gainDb = 0.0; ///< gain of the normalisation; 0 if it is off or the file is silent
-    /// What became of the tags; null if none were to be carried over. Complete when no export is pending.
+    /// What became of the tags; null if none were to be carried over. Complete when no export is
+    /// pending.
     std::shared_ptr<const QMMultiMedia::TagReceipt> tags;
 };

@@ -222,3 +222,63 @@ TEST_F(BatchWorkerTest, TrimmedSilenceStillGivesAFile)
     EXPECT_EQ(tree(folder), QStringList({u"a.m4a"_qs, u"silent.m4a"_qs}));
     EXPECT_EQ(log(), QString());
 }
+
+namespace {
+
+/// Every signal of a run with its argument, and the files of the run at that moment.
+QStringList recordOfRun(const QVector<QString> &files, const QString &destination, bool readAhead)
+{
+    QStringList record;
+    BatchThread thread;
+    BatchWorker *worker = thread.worker();
+    worker->setSettings({u"WAV"_qs, 44100, 2, 16, 128000, 3});
+    worker->setInputFiles(files);
+    worker->setReadAhead(readAhead);
+    const auto note = [&record, destination](const QString &what) {
+        QStringList names;
+        QDirIterator found(destination, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (found.hasNext()) {
+            names << QFileInfo(found.next()).fileName();
+        }
+        names.sort();
+        record << what + u": "_qs + names.join(u", "_qs);
+    };
+    // On the worker's thread, so that nothing moves on meanwhile.
+    const auto noteNumber = [note](const QString &name) {
+        return [note, name](int number) { note(name + QString::number(number)); };
+    };
+    QObject::connect(worker, &BatchWorker::fileProgress, worker, noteNumber(u"file "_qs));
+    QObject::connect(worker, &BatchWorker::totalProgress, worker, noteNumber(u"total "_qs));
+    QObject::connect(worker, &BatchWorker::currentFile, worker, note);
+    QObject::connect(worker, &BatchWorker::errorsLog, worker, note);
+    QObject::connect(worker, &BatchWorker::finished, worker, [note] { note(u"finished"_qs); });
+    QSignalSpy finished(worker, &BatchWorker::finished);
+    QObject::connect(&thread, &QThread::started, worker, &BatchWorker::slotDoWork);
+    thread.start();
+    EXPECT_TRUE(waitFor([&finished] { return !finished.isEmpty(); }, 60000));
+    return record;
+}
+
+}
+
+TEST_F(BatchWorkerTest, ReadingAheadChangesNeitherSignalsNorEffects)
+{
+    set(u"KeyFolderStructureActive"_qs, false);
+    set(u"KeyCopyMetaTagsActive"_qs, false); // tags arrive on a thread of their own
+    ASSERT_TRUE(MediaMaker::writeFile(in(u"broken.mp3"_qs), QByteArray(3000, 'y')));
+    const QVector<QString> files {tone(u"a.flac"_qs, 2), tone(u"b.wav"_qs, 3), in(u"broken.mp3"_qs),
+        in(u"gone.wav"_qs), tone(u"c.flac"_qs, 2), tone(u"sub/a.flac"_qs, 1)};
+    const QString plain = m_scratch.path() + u"/plain/"_qs;
+    const QString ahead = m_scratch.path() + u"/ahead/"_qs;
+    set(u"DestinationPath"_qs, plain);
+    const QStringList expected = recordOfRun(files, plain, false);
+    set(u"DestinationPath"_qs, ahead);
+    const QStringList record = recordOfRun(files, ahead, true);
+    EXPECT_GT(record.size(), 30);
+    EXPECT_EQ(record.size(), expected.size());
+    for (int i = 0; i < std::min(record.size(), expected.size()); ++i) {
+        ASSERT_EQ(record.at(i), expected.at(i)) << i;
+    }
+    const QStringList outputs = tree(plain);
+    EXPECT_EQ(outputs.size(), 4);
+}
