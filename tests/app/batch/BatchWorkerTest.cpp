@@ -18,6 +18,14 @@ using MediaMaker::waitFor;
 
 namespace {
 
+/// What a spy has noted may be read only when the thread is over.
+void runToTheEnd(BatchThread &thread)
+{
+    QObject::connect(thread.worker(), &BatchWorker::finished, &thread, &QThread::quit);
+    thread.start();
+    EXPECT_TRUE(waitFor([&thread] { return thread.isFinished(); }, 60000));
+}
+
 /// A scratch folder with sources, the settings of a run, and the run itself on its own thread.
 class BatchWorkerTest : public ::testing::Test
 {
@@ -63,10 +71,7 @@ protected:
             EXPECT_TRUE(spy->isValid());
         }
         QObject::connect(&m_thread, &QThread::started, m_worker, &BatchWorker::slotDoWork);
-        m_thread.start();
-        EXPECT_TRUE(waitFor([this] { return !m_finished.isEmpty(); }, 60000));
-        m_thread.quit();
-        m_thread.wait();
+        runToTheEnd(m_thread);
         return m_finished.isEmpty() ? QString() : m_finished.first().first().toString();
     }
 
@@ -252,10 +257,8 @@ QStringList recordOfRun(const QVector<QString> &files, const QString &destinatio
     QObject::connect(worker, &BatchWorker::currentFile, worker, note);
     QObject::connect(worker, &BatchWorker::errorsLog, worker, note);
     QObject::connect(worker, &BatchWorker::finished, worker, [note] { note(u"finished"_qs); });
-    QSignalSpy finished(worker, &BatchWorker::finished);
     QObject::connect(&thread, &QThread::started, worker, &BatchWorker::slotDoWork);
-    thread.start();
-    EXPECT_TRUE(waitFor([&finished] { return !finished.isEmpty(); }, 60000));
+    runToTheEnd(thread);
     return record;
 }
 
