@@ -51,7 +51,8 @@ TEST(FrameCount, EveryCountOfADropDaySurvivesItsText)
                 << fps;
         }
     }
-    EXPECT_EQ(FrameCount(0, 25.0f).frameCountFromTimecode(u"00:00:01:0"_qs), FrameCount::unknownCount);
+    EXPECT_EQ(
+        FrameCount(0, 25.0f).frameCountFromTimecode(u"00:00:01:0"_qs), FrameCount::unknownCount);
     EXPECT_EQ(FrameCount(0, 0.0f).frameCountFromTimecode(1, 2, 3, 4), FrameCount::unknownCount);
 }
 
@@ -72,8 +73,8 @@ TEST(FrameCount, PulldownFollowsItsTables)
     EXPECT_EQ(seconds, 1);
     FrameCount(0, 24.0f).timecodeFromFrameCount(
         &hours, &minutes, &seconds, &frames, false, -1, true, 1);
-    EXPECT_EQ((std::vector<int> {hours, minutes, seconds, frames}),
-        (std::vector<int> {23, 59, 59, 29}));
+    EXPECT_EQ(
+        (std::vector<int> {hours, minutes, seconds, frames}), (std::vector<int> {23, 59, 59, 29}));
     FrameCount(5, 24.0f).timecodeFromFrameCount(
         &hours, &minutes, &seconds, &frames, false, 0, true, 5);
     EXPECT_EQ(frames, 5) << "an unknown phase leaves the result";

@@ -1,6 +1,6 @@
+#include "MediaCommon.h"
 #include "Literals.h"
 #include "MAudioFormat.h"
-#include "MediaCommon.h"
 #include "PlatformVersion.h"
 
 #include <gtest/gtest.h>
