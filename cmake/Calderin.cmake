@@ -59,6 +59,11 @@ endfunction()
 function(calderin_room library)
     list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
     target_sources(${library} PRIVATE ${ARGN})
+    # The first header of a library doesn't bring the moc run about in a tree that was built before.
+    get_target_property(dir ${library} BINARY_DIR)
+    if(CMAKE_CURRENT_LIST_FILE IS_NEWER_THAN ${dir}/${library}_autogen/timestamp)
+        file(REMOVE ${dir}/${library}_autogen/timestamp)
+    endif()
     target_include_directories(${library} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
 

@@ -2,7 +2,6 @@
 
 #include "Literals.h"
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <QCoreApplication>
 #include <sys/ioctl.h>
@@ -98,7 +97,7 @@ QString ConsoleProgress::timeLeft() const
         return {};
     }
     const double left = static_cast<double>(m_timer.elapsed()) * (100.0 - done) / done / 1000.0;
-    return u"  ("_qs + clock(std::llround(left)) + u" left)"_qs;
+    return u"  ("_qs + clock(static_cast<qint64>(left + 0.5)) + u" left)"_qs;
 }
 
 void ConsoleProgress::draw()
@@ -113,7 +112,7 @@ void ConsoleProgress::draw()
     put(u"\r\x1b[K"_qs + line.left(terminalWidth() - 1));
 }
 
-void ConsoleProgress::clear() const
+void ConsoleProgress::clear()
 {
     if (m_terminal && !m_finished) {
         put(u"\r\x1b[K"_qs);

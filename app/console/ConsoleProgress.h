@@ -28,7 +28,7 @@ public:
 
 private:
     void draw();
-    void clear() const;
+    void clear();
     QString timeLeft() const;
 
     int m_total = 1;

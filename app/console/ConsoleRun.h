@@ -46,7 +46,7 @@ private slots:
 private:
     Q_DISABLE_COPY(ConsoleRun)
 
-    bool prepareDestination() const;
+    bool prepareDestination();
     bool scan();
     void convert();
     void waitForTags();

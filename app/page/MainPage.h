@@ -27,6 +27,7 @@ class TracksListDelegate;
 namespace QMMultiMedia {
 class MediaSearchDialog;
 class PlayListModel;
+struct MAudioFormat;
 }
 namespace QMWidgets {
 class DropWidget;
@@ -117,6 +118,7 @@ private:
     bool isBusy() const;
     bool isDefaultDestination() const;
     bool openDestination();
+    static QMMultiMedia::MAudioFormat runFormat();
     void fillWorker(BatchWorker *worker);
     BatchRun *createRun();
     void connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop);

@@ -33,15 +33,9 @@ int PlayListModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_lstFiles.size();
 }
 
-/// Also an index that outlived its row is told from one of a track.
-bool PlayListModel::isRow(const QModelIndex &index) const
-{
-    return index.isValid() && index.model() == this && index.row() < m_lstFiles.size();
-}
-
 QVariant PlayListModel::data(const QModelIndex &index, int role) const
 {
-    if (!isRow(index)) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     const QString &file = m_lstFiles.at(index.row());
@@ -67,7 +61,7 @@ QVariant PlayListModel::data(const QModelIndex &index, int role) const
 
 bool PlayListModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!isRow(index) || role != Qt::EditRole) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::EditRole) {
         return false;
     }
     m_lstFiles[index.row()] = value.toString();

@@ -4,6 +4,7 @@
 #include "PlatformVersion.h"
 #include <QDir>
 #include <QFileOpenEvent>
+#include <QMutex>
 #include <QMutexLocker>
 #include <QSettings>
 #include <QThread>
@@ -68,6 +69,9 @@ App::App(int &argc, char **argv, const QString &strOrganization, const QString &
 
 App::~App()
 {
+    if (!m_phelpDialog.isNull() && m_phelpDialog->parent() == nullptr) {
+        delete m_phelpDialog;
+    }
     const QMutexLocker locker(&storeMutex());
     delete m_psettings;
     m_psettings = nullptr;

@@ -4,10 +4,9 @@
 #include <functional>
 #include <QApplication>
 #include <QDate>
+#include <QDialog>
 #include <QMap>
-#include <QMutex>
 #include <QPointer>
-#include <QSize>
 #include <QStringList>
 #include <QVariant>
 
@@ -16,7 +15,6 @@ class QSettings;
 namespace QMWidgets {
 
 class BlenderWidget;
-class HelpDialog;
 
 /// The application object of every program of the family: where files are kept, the settings store,
 /// the log, the identity of the build, the main widget, and the texts and links of the maker.
@@ -386,6 +384,9 @@ private:
     void createLegalNotices();
     void initAppsIds();
     void scheduleReminder(int nKind);
+    void runDueReminder();
+    void takeReminderAnswer(int nState);
+    template <typename Dialog> int runReminder();
 
     static QList<void *> sm_lstRegisteredFunctions;
     static QString sm_strUpdateVersion;
@@ -407,7 +408,7 @@ private:
     QPointer<QWidget> m_pwgtMain;
     QPointer<BlenderWidget> m_pblender;
 
-    HelpDialog *m_phelpDialog = nullptr;
+    QPointer<QDialog> m_phelpDialog;
     QStringList m_lstSlides;
     QString m_strIntroVideosList;
     QString m_strPrivacyPolicyLink;
@@ -428,6 +429,7 @@ private:
     int m_nReminderDelay = 4000;
     QStringList m_lstUpdateServers;
     int m_nUpdateTimeLimit = 7000;
+    bool m_bCheckingUpdate = false;
 };
 
 } // namespace QMWidgets

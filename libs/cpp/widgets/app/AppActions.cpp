@@ -1,10 +1,17 @@
 // What the menus ask of an App.
 #include "App.h"
 
+#include "AboutDialog.h"
+#include "AppCatalog.h"
+#include "HelpDialog.h"
+#include "JoinDialog.h"
 #include "Literals.h"
 #include "MakerHosts.h"
+#include "TellDialog.h"
+#include <QEventLoop>
 #include <QTimer>
 #include <QUrl>
+#include <utility>
 
 namespace QMWidgets {
 
@@ -15,9 +22,26 @@ QString encoded(const QString &str)
     return QString::fromLatin1(QUrl::toPercentEncoding(str));
 }
 
+// Shows the dialog on its window and returns when it is finished; the rest goes on meanwhile.
+void runAsSheet(QDialog *pdlg)
+{
+    const QPointer<QDialog> pdlgAlive(pdlg);
+    QEventLoop loop;
+    QObject::connect(pdlg, &QDialog::finished, &loop, &QEventLoop::quit);
+    QObject::connect(pdlg, &QObject::destroyed, &loop, &QEventLoop::quit);
+    pdlg->open();
+    loop.exec();
+    delete pdlgAlive;
 }
 
-void App::initAppsIds() { }
+}
+
+void App::initAppsIds()
+{
+    for (const AppCatalogItem &item : appCatalog()) {
+        m_mapAppsIds.insert(item.strKey, item.strId);
+    }
+}
 
 void App::slotShowPrivacyPolicy()
 {
@@ -71,14 +95,50 @@ void App::slotRateApp()
 
 void App::slotShowCssEditor() { }
 
-void App::slotHelp() { }
+void App::slotHelp()
+{
+    if (m_phelpDialog.isNull()) {
+        auto *pdlg = new HelpDialog(m_pwgtMain); // without a parent it is deleted at the end
+        for (const QString &strSlide : std::as_const(m_lstSlides)) {
+            pdlg->addSlide(strSlide);
+        }
+        if (!m_strIntroVideosList.isEmpty()) {
+            pdlg->setVideoLink(m_strIntroVideosList);
+        }
+        m_phelpDialog = pdlg;
+    }
+    if (m_phelpDialog->parent() == nullptr) {
+        m_phelpDialog->exec();
+        return;
+    }
+    m_phelpDialog->show();
+    m_phelpDialog->raise();
+    m_phelpDialog->activateWindow();
+}
 
-void App::showHelpOnStart() { }
+void App::showHelpOnStart()
+{
+    constexpr int delayMs = 500;
+    if (HelpDialog::isShowOnStartAvailable()) {
+        QTimer::singleShot(delayMs, theApp(), &App::slotHelp);
+    }
+}
 
-void App::slotShareApp() { }
+void App::slotShareApp()
+{
+    runAsSheet(new TellDialog(activeWindow())); // deleted there
+}
 
-void App::slotJoin() { }
+void App::slotJoin()
+{
+    runAsSheet(new JoinDialog(activeWindow())); // deleted there
+}
 
-void App::slotAbout() { }
+void App::slotAbout()
+{
+    const QPointer<AboutDialog> pdlg(new AboutDialog(m_pwgtMain)); // gone with its parent, or below
+    pdlg->exec();
+    delete pdlg;
+}
 
 } // namespace QMWidgets

@@ -1,7 +1,12 @@
 // The reminders of an App to rate it, to tell of it, or to join its maker.
 #include "App.h"
 
+#include "JoinReminderDialog.h"
 #include "Literals.h"
+#include "Os.h"
+#include "PlatformVersion.h"
+#include "RateAppStoreDialog.h"
+#include "TellReminderDialog.h"
 #include <QRandomGenerator>
 #include <QTimer>
 
@@ -115,8 +120,65 @@ void App::slotCallJoinReminder()
     scheduleReminder(Join);
 }
 
-void App::slotCallRateReminderInternal() { }
+template <typename Dialog> int App::runReminder()
+{
+    const QPointer<Dialog> pdlg(new Dialog(m_pwgtMain)); // gone with its parent, or below
+    pdlg->exec();
+    const int nState = pdlg.isNull() ? ReminderStateDialog::None : pdlg->state();
+    delete pdlg;
+    return nState;
+}
 
-void App::slotImmediatelyRate() { }
+void App::takeReminderAnswer(int nState)
+{
+    switch (nState) {
+    case ReminderStateDialog::Rate:
+        slotRateApp();
+        break;
+    case ReminderStateDialog::Mail:
+        slotContactUs();
+        break;
+    case ReminderStateDialog::Never:
+        break;
+    default:
+        return;
+    }
+    setSettingsValue(u"AutoReminder"_qs, false);
+}
+
+void App::runDueReminder()
+{
+    constexpr int firstVersionWithReviews = 16;
+    if (platformVersion() >= firstVersionWithReviews) {
+        Os::requestReview(true);
+    } else if (m_nReminderKind == Tell) {
+        takeReminderAnswer(runReminder<TellReminderDialog>());
+    } else if (m_nReminderKind != Rate) {
+        takeReminderAnswer(runReminder<JoinReminderDialog>());
+    } else if (!RateAppStoreDialog::wasAlreadyCalled()) {
+        takeReminderAnswer(runReminder<RateAppStoreDialog>());
+    }
+}
+
+void App::slotCallRateReminderInternal()
+{
+    if (!m_pwgtMain.isNull() && !m_pwgtMain->isVisible()) {
+        m_pwgtMain->show();
+    }
+    if (!settingsValue(u"AutoReminder"_qs, true).toBool()) {
+        return;
+    }
+    const QString strCountKey = u"AutoReminderCount"_qs;
+    const int nOccasion = settingsValue(strCountKey, 1).toInt();
+    if (m_nReminderCount > 0 && nOccasion % m_nReminderCount == 0) {
+        runDueReminder();
+    }
+    setSettingsValue(strCountKey, nOccasion < -1 ? 1 : nOccasion + 1);
+}
+
+void App::slotImmediatelyRate()
+{
+    takeReminderAnswer(runReminder<RateAppStoreDialog>());
+}
 
 } // namespace QMWidgets

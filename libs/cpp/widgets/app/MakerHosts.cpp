@@ -74,6 +74,11 @@ QString twitterShare()
     return u"https://twitter.velmora.example/home?status="_qs;
 }
 
+QString linkedinShare()
+{
+    return u"https://linkedin.velmora.example/share?url="_qs;
+}
+
 QString youtubePage()
 {
     return u"https://youtube.velmora.example/velmora"_qs;

@@ -38,6 +38,7 @@ QString storeHost();
 /// The addresses to share a page through, ending in the query key and "=".
 QString facebookShare();
 QString twitterShare();
+QString linkedinShare();
 
 /// The maker's pages on the networks.
 QString youtubePage();
