@@ -85,11 +85,15 @@ private:
     void takeGenre(const AVMetadataItem &item);
     void takeNumberPair(const AVMetadataItem &item, int length, QString *field) const;
     void takeInfo(const QVariantMap &info);
-    QVariant valueFor(const AVMetadataItem &item);
-    QVariant pictureValue();
+    void readRawTag(AudioFileID file);
+    bool readPicture(AudioFileID file);
+    /// The value that the record has for an item of the template; invalid if it has none.
+    QVariant valueFor(const AVMetadataItem &item) const;
+    QVariant pictureValue() const;
     QByteArray numberPairValue(const QString &number, int length) const;
-    QList<AVMetadataItem> itemsOfTemplate(const QString &templatePath);
+    QList<AVMetadataItem> itemsFromTemplate(const QString &templatePath) const;
     QStringList lostFields() const;
+    bool startExport(const QString &path, const QList<AVMetadataItem> &items);
 
     /// The last picture that was encoded, shared by all objects: a batch of files with one cover
     /// holds it once. Only used on the worker's thread.

@@ -27,7 +27,7 @@ public:
 
     /// Whether the file has an audio or video stream that can be decoded here.
     bool isPlayable() const;
-    /// The length of the sound, or of the file if it has none; 0 s where it isn't known.
+    /// The length of the file; 0 s where it isn't known.
     CMTime duration() const;
 
     /// The metadata formats (AVMetadataFormat…) of the file, in the order in which it holds them.

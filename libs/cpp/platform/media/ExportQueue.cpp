@@ -1,0 +1,111 @@
+#include "ExportQueue.h"
+
+#include "PendingExports.h"
+
+#include <chrono>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+namespace {
+
+void finishAll()
+{
+    PendingExports::waitForAll();
+}
+
+}
+
+ExportQueue &ExportQueue::instance()
+{
+    // The destructor runs at the end of the process; where there is an application object, its end
+    // comes first and is the better moment.
+    static ExportQueue queue;
+    return queue;
+}
+
+ExportQueue::~ExportQueue()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isEnding = true;
+    }
+    m_changed.notify_all();
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+void ExportQueue::add(const QString &output, std::function<void()> job)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_thread.joinable()) {
+        qAddPostRoutine(finishAll);
+        m_thread = std::thread([this] { run(); });
+    }
+    m_jobs.push_back(std::move(job));
+    m_outputs.append(output);
+    m_changed.notify_all();
+}
+
+void ExportQueue::run()
+{
+    std::unique_lock lock(m_mutex);
+    while (true) {
+        m_changed.wait(lock, [this] { return m_isEnding || !m_jobs.empty(); });
+        if (m_jobs.empty()) {
+            return;
+        }
+        std::function<void()> job = std::move(m_jobs.front());
+        m_jobs.pop_front();
+        lock.unlock();
+        job();
+        job = nullptr; // what it holds goes before it counts as over
+        lock.lock();
+        m_outputs.removeFirst();
+        m_changed.notify_all();
+    }
+}
+
+int ExportQueue::count() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_outputs.size();
+}
+
+bool ExportQueue::waitUntil(
+    const std::function<bool(const QStringList &)> &predicate, int limitMs) const
+{
+    std::unique_lock lock(m_mutex);
+    return m_changed.wait_for(
+        lock, std::chrono::milliseconds(limitMs), [&] { return predicate(m_outputs); });
+}
+
+namespace PendingExports {
+
+int count()
+{
+    return ExportQueue::instance().count();
+}
+
+void waitForAll(const std::function<void(int, qint64)> &progress)
+{
+    constexpr int stepMs = 100;
+    QElapsedTimer timer;
+    timer.start();
+    const ExportQueue &queue = ExportQueue::instance();
+    while (!queue.waitUntil([](const QStringList &left) { return left.isEmpty(); }, stepMs)) {
+        if (progress) {
+            progress(queue.count(), timer.elapsed());
+        }
+    }
+}
+
+void waitForOutput(const QString &path)
+{
+    constexpr int stepMs = 1000;
+    const ExportQueue &queue = ExportQueue::instance();
+    while (!queue.waitUntil(
+        [&path](const QStringList &outputs) { return !outputs.contains(path); }, stepMs)) { }
+}
+
+}

@@ -1,0 +1,245 @@
+#include "Id3Items.h"
+
+#include "AVMetadataIdentifiers.h"
+#include "FieldTable.h"
+#include "Literals.h"
+
+#include <optional>
+#include <QRegularExpression>
+#include <taglib/attachedpictureframe.h>
+#include <taglib/commentsframe.h>
+#include <taglib/id3v1tag.h>
+#include <taglib/id3v2tag.h>
+#include <taglib/textidentificationframe.h>
+#include <taglib/urllinkframe.h>
+
+namespace {
+
+using FieldTable::Field;
+
+constexpr int maximumItems = 4096;
+
+/// Collects a tag's items, one a field.
+class Id3Reader
+{
+public:
+    void read(const TagLib::ID3v2::FrameList &frames);
+    QList<AVMetadataItem> items() const { return m_items; }
+
+    void add(const QString &id, const QVariant &value, const QString &type = MetadataType::text());
+
+private:
+    void readFrame(const TagLib::ID3v2::Frame &frame);
+    void readText(const QString &id, const TagLib::ID3v2::TextIdentificationFrame &frame);
+    void readPicture(const TagLib::ID3v2::AttachedPictureFrame &frame);
+    int indexOf(const QString &id) const;
+
+    QList<AVMetadataItem> m_items;
+    int m_dateRank = -1;
+    bool m_hasFrontCover = false;
+};
+
+int Id3Reader::indexOf(const QString &id) const
+{
+    for (int i = 0; i < m_items.size(); ++i) {
+        if (m_items.at(i).key() == id) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+void Id3Reader::add(const QString &id, const QVariant &value, const QString &type)
+{
+    const auto match = FieldTable::find(FieldTable::Names::Id3, id);
+    m_items.append({AVMetadataKeySpaceID3, id,
+        match ? FieldTable::commonKey(match->field) : QString(), value, type});
+}
+
+void Id3Reader::read(const TagLib::ID3v2::FrameList &frames)
+{
+    for (const TagLib::ID3v2::Frame *const frame : frames) {
+        if (m_items.size() >= maximumItems) {
+            return;
+        }
+        readFrame(*frame);
+    }
+}
+
+void Id3Reader::readFrame(const TagLib::ID3v2::Frame &frame)
+{
+    const TagLib::ByteVector rawId = frame.frameID();
+    const QString id = QString::fromLatin1(rawId.data(), static_cast<int>(rawId.size()));
+    if (const auto *picture = dynamic_cast<const TagLib::ID3v2::AttachedPictureFrame *>(&frame)) {
+        readPicture(*picture);
+    } else if (const auto *comment = dynamic_cast<const TagLib::ID3v2::CommentsFrame *>(&frame)) {
+        // One with a description is a program's own note, not the user's comment.
+        if (comment->description().isEmpty() && indexOf(id) < 0) {
+            add(id, toQString(comment->text()));
+        }
+    } else if (const auto *text
+        = dynamic_cast<const TagLib::ID3v2::TextIdentificationFrame *>(&frame)) {
+        readText(id, *text);
+    } else if (const auto *link = dynamic_cast<const TagLib::ID3v2::UrlLinkFrame *>(&frame)) {
+        add(id, toQString(link->url()));
+    }
+}
+
+/// A genre's first number, else its names; nothing if there is neither.
+QString genreText(const QStringList &texts)
+{
+    static const QRegularExpression leading(u"^\\s*(?:\\((\\d{1,9})\\)|(\\d{1,9})\\s*$)"_qs);
+    QStringList names;
+    for (const QString &text : texts) {
+        const QRegularExpressionMatch match = leading.match(text);
+        if (match.hasMatch()) {
+            return match.captured(match.lastCapturedIndex());
+        }
+        if (!text.isEmpty()) {
+            names.append(text);
+        }
+    }
+    return names.join(u"; "_qs);
+}
+
+/// A second frame of one name: its texts join those of the first, where a field can have several.
+void join(AVMetadataItem &item, Field field, const QStringList &texts)
+{
+    constexpr int maximumJoined = 64 * 1024;
+    const QString before = item.stringValue();
+    if ((field == Field::Artist || field == Field::Composer || field == Field::AlbumArtist)
+        && before.size() < maximumJoined) {
+        item.setValue((QStringList(before) + texts).join(u"; "_qs));
+    }
+}
+
+void Id3Reader::readText(const QString &id, const TagLib::ID3v2::TextIdentificationFrame &frame)
+{
+    QStringList texts;
+    for (const TagLib::String &text : frame.fieldList()) {
+        texts.append(toQString(text));
+    }
+    const auto match = FieldTable::find(FieldTable::Names::Id3, id);
+    if (const int earlier = match ? indexOf(id) : -1; earlier >= 0) {
+        join(m_items[earlier], match->field, texts);
+        return;
+    }
+    if (match && match->field == Field::Genre) {
+        add(id, genreText(texts));
+    } else if (match && match->field == Field::Tempo) {
+        static const QRegularExpression integer(u"^\\s*(\\d{1,9})"_qs);
+        const QRegularExpressionMatch number = integer.match(texts.value(0));
+        if (number.hasMatch()) {
+            add(id, number.captured(1).toInt(), MetadataType::integer());
+        }
+    } else if (match && match->field == Field::Date) {
+        if (m_dateRank < 0) {
+            m_dateRank = match->rank;
+            add(id, texts.value(0));
+        } else if (match->rank < m_dateRank) {
+            m_items.removeAt(indexOf(AVMetadataID3MetadataKeyYear));
+            m_dateRank = match->rank;
+            add(id, texts.value(0));
+        }
+    } else if (match && (match->field == Field::Track || match->field == Field::Disc)) {
+        add(id, texts.value(0));
+    } else {
+        add(id, texts.join(u"; "_qs));
+    }
+}
+
+void Id3Reader::readPicture(const TagLib::ID3v2::AttachedPictureFrame &frame)
+{
+    const bool isFrontCover = frame.type() == TagLib::ID3v2::AttachedPictureFrame::FrontCover;
+    const QString id = u"APIC"_qs;
+    const int earlier = indexOf(id);
+    const TagLib::ByteVector picture = frame.picture();
+    if (picture.isEmpty() || (earlier >= 0 && (m_hasFrontCover || !isFrontCover))) {
+        return;
+    }
+    const QByteArray bytes(picture.data(), static_cast<int>(picture.size()));
+    m_hasFrontCover = isFrontCover;
+    if (earlier >= 0) {
+        m_items.removeAt(earlier);
+    }
+    add(id,
+        QVariantMap {{u"data"_qs, unsynchronised(bytes)}, {u"MIME"_qs, toQString(frame.mimeType())},
+            {u"text"_qs, toQString(frame.description())},
+            {u"picturetype"_qs, static_cast<int>(frame.type())}},
+        MetadataType::picture(bytes));
+}
+
+}
+
+QList<AVMetadataItem> id3Items(const TagLib::ID3v2::Tag &tag)
+{
+    Id3Reader reader;
+    reader.read(tag.frameList());
+    return reader.items();
+}
+
+QList<AVMetadataItem> id3v1Items(const TagLib::ID3v1::Tag &tag)
+{
+    Id3Reader reader;
+    const auto add = [&reader](const QString &id, const TagLib::String &text) {
+        const QString value = toQString(text).trimmed();
+        if (!value.isEmpty()) {
+            reader.add(id, value);
+        }
+    };
+    add(u"TIT2"_qs, tag.title());
+    add(u"TPE1"_qs, tag.artist());
+    add(u"TALB"_qs, tag.album());
+    add(u"COMM"_qs, tag.comment());
+    if (tag.year() != 0) {
+        reader.add(u"TYER"_qs, QString::number(tag.year()));
+    }
+    if (tag.track() != 0) {
+        reader.add(u"TRCK"_qs, QString::number(tag.track()));
+    }
+    constexpr unsigned noGenre = 255;
+    if (tag.genreNumber() != noGenre) {
+        reader.add(u"TCON"_qs, QString::number(tag.genreNumber()));
+    }
+    return reader.items();
+}
+
+QByteArray unsynchronised(const QByteArray &bytes)
+{
+    QByteArray result;
+    result.reserve(bytes.size() + bytes.size() / 64);
+    for (int i = 0; i < bytes.size(); ++i) {
+        const char byte = bytes.at(i);
+        result.append(byte);
+        if (byte == '\xFF') {
+            const auto next
+                = i + 1 < bytes.size() ? static_cast<unsigned char>(bytes.at(i + 1)) : 0;
+            if (next == 0 || next >= 0xE0) {
+                result.append('\0');
+            }
+        }
+    }
+    return result;
+}
+
+QString toQString(const TagLib::String &text)
+{
+    QString result;
+    result.reserve(static_cast<int>(text.size()));
+    // The library holds UTF-16 units in its wide characters.
+    for (const wchar_t unit : text) {
+        if (unit == 0) {
+            break;
+        }
+        result.append(QChar(static_cast<ushort>(unit)));
+    }
+    for (int i = 0; i < result.size(); ++i) {
+        if (result.at(i).isHighSurrogate() && i + 1 < result.size()
+            && result.at(i + 1).isLowSurrogate()) {
+            ++i;
+        } else if (result.at(i).isSurrogate()) {
+            result[i] = QChar::ReplacementCharacter;
+        }
+    }
+    return result;
+}
