@@ -44,7 +44,6 @@ void AboutDialog::createWidgets()
     m_ptxtInfo->setObjectName(u"AboutInfoLabel"_qs);
     m_ptxtInfo->setStyleSheet(u"background: black;"_qs);
     m_ptxtInfo->setAccessibleName(tr("About the program"));
-    m_ptxtInfo->setHtml(infoText(App::buildDate()));
 
     m_ptxtLegal = new QTextBrowser(this);
     m_ptxtLegal->setObjectName(u"AboutLegalInfo"_qs);
@@ -53,9 +52,11 @@ void AboutDialog::createWidgets()
     for (QTextBrowser *ptxt : {m_ptxtInfo, m_ptxtLegal}) {
         ptxt->setOpenLinks(false);
         ptxt->setTabChangesFocus(true);
+        ptxt->document()->setDefaultStyleSheet(u"a { color: #00A0E0; }"_qs);
         ptxt->setMinimumSize(320, 120);
         connect(ptxt, &QTextBrowser::anchorClicked, this, &AboutDialog::slotAnchorClicked);
     }
+    m_ptxtInfo->setHtml(infoText(App::buildDate()));
 
     m_pcmdLegal = new QPushButton(this);
     m_pcmdOk = new QPushButton(tr("&Ok"), this);

@@ -24,8 +24,7 @@ DropWidget::DropWidget(QWidget *parent)
     m_plblArea = new QLabel(tr("<H1>Drop the photos here</H1>"), this);
     m_plblArea->setAlignment(Qt::AlignCenter);
     m_plblArea->setWordWrap(true);
-    // The area's own background is to be seen behind the text, not the look of ordinary labels.
-    m_plblArea->setStyleSheet(u"QLabel { background: transparent; border: none; }"_qs);
+    m_plblArea->setObjectName(u"DropAreaText"_qs);
 
     m_pcmdOpen
         = new QPushButton(QIcon(u":/openfiles.png"_qs), tr("Click to open the photos"), this);
@@ -37,8 +36,8 @@ DropWidget::DropWidget(QWidget *parent)
     playoutButton->addWidget(m_pcmdOpen);
     playoutButton->addStretch(1);
     auto *playout = new QVBoxLayout(this);
-    playout->setContentsMargins(6, 4, 6, 6);
-    playout->setSpacing(2);
+    playout->setContentsMargins(4, 5, 4, 8);
+    playout->setSpacing(0);
     playout->addWidget(m_plblArea, 1);
     playout->addLayout(playoutButton);
 }
@@ -66,6 +65,16 @@ void DropWidget::setHideAfterDrop(bool b)
 QList<QUrl> DropWidget::urls() const
 {
     return m_lstUrls;
+}
+
+QSize DropWidget::sizeHint() const
+{
+    return layout()->sizeHint();
+}
+
+QSize DropWidget::minimumSizeHint() const
+{
+    return layout()->minimumSize();
 }
 
 void DropWidget::slotOpenClicked()

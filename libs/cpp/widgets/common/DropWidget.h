@@ -34,6 +34,10 @@ public:
     /// What was dropped or chosen last.
     QList<QUrl> urls() const;
 
+    // Those of the text and the button, not of a label's own contents.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 signals:
     void dropped(QList<QUrl> lst);
 

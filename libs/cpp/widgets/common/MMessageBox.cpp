@@ -121,7 +121,6 @@ void MMessageBox::addButton(const QString &strText, int value, void (MMessageBox
 {
     auto *pcmd = new QPushButton(strText, this);
     Common::applyPushButtonDetails(pcmd);
-    pcmd->setMinimumWidth(80);
     pcmd->setProperty(ValueProperty, value);
     connect(pcmd, &QPushButton::clicked, this, slot);
     m_playoutButtons->addWidget(pcmd);

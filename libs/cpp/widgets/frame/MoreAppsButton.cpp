@@ -15,6 +15,7 @@ MoreAppsButton::MoreAppsButton(QWidget *parent)
     , m_pmapper(new QSignalMapper(this))
 {
     setObjectName(u"MoreButton"_qs);
+    m_pmenu->setObjectName(u"CatalogMenu"_qs);
     setFlat(true);
     setToolTip(tr("More"));
     setAccessibleName(toolTip());

@@ -20,6 +20,7 @@ PromoMenuBar::PromoMenuBar(QWidget *parent, bool bQuitSignal)
     , m_pmapper(new QSignalMapper(this))
 {
     setObjectName(u"MenuBar"_qs);
+    m_pmenuMore->setObjectName(u"CatalogMenu"_qs);
     createButtons(bQuitSignal);
     createLayout();
     connectButtons();

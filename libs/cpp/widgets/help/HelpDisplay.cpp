@@ -10,7 +10,16 @@ HelpDisplay::HelpDisplay(QWidget *parent)
     : QFrame(parent)
 {
     setMinimumSize(App::isPocketDevice() ? QSize(280, 220) : QSize(400, 300));
+    // What lies beside a slide belongs to the dialog's dark surface.
+    QPalette pal = palette();
+    pal.setColor(QPalette::Dark, QColor(24, 24, 25));
+    setPalette(pal);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize HelpDisplay::sizeHint() const
+{
+    return {640, 480};
 }
 
 void HelpDisplay::setSlide(const QString &strPath)

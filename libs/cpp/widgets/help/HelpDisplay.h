@@ -17,6 +17,8 @@ public:
     void setSlide(const QString &strPath);
     QString slide() const;
 
+    QSize sizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent *pe) override;
 

@@ -19,10 +19,13 @@ JoinWidget::JoinWidget(QWidget *parent)
     , m_playoutButtons(new QHBoxLayout)
 {
     auto *plblText = new QLabel(tr("Follow us and stay informed<br>about our"), this);
+    plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
     auto *plblList = new QLabel(u"%1<br>%2<br>%3<br>%4"_qs.arg(tr("1. Important News"),
                                     tr("2. New APPs"), tr("3. APP Updates"), tr("and more...")),
         this);
+
+    plblList->setObjectName(u"SimpleLabel"_qs);
 
     m_playoutButtons->addStretch(1);
     addButton(u"YouTubeJoinButton"_qs, u"YouTube"_qs, &JoinWidget::slotYouTube);

@@ -10,7 +10,7 @@ void applyNetworkButtonProperties(
     pcmd->setObjectName(strName);
     pcmd->setFlat(true);
     pcmd->setAutoDefault(false);
-    pcmd->setFixedSize(48, 48);
+    pcmd->setFixedSize(52, 52);
     pcmd->setCursor(Qt::PointingHandCursor);
     pcmd->setToolTip(strToolTip);
     pcmd->setAccessibleName(strToolTip);

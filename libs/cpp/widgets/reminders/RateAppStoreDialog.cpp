@@ -24,6 +24,7 @@ RateAppStoreDialog::RateAppStoreDialog(QWidget *parent)
     auto *plblText = new QLabel(tr("Please rate the app on the App Store.<br>This will help us "
                                    "improve <br>the app's features in the future."),
         this);
+    plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
     QPushButton *pcmdRate = createButton(tr("&Rate It Now"), &RateAppStoreDialog::slotRate);
     pcmdRate->setObjectName(u"LikeButton"_qs);

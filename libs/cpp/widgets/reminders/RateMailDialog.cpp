@@ -18,6 +18,7 @@ RateMailDialog::RateMailDialog(QWidget *parent)
         = new QLabel(tr("Please rate it on the app store or send us a quick e-mail<br>and tell us "
                         "what you didn't enjoy. <br>Your feedback will help us improve this app."),
             this);
+    plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
     QPushButton *pcmdRate = createButton(tr("&Rate"), &RateMailDialog::slotRate);
     pcmdRate->setObjectName(u"LikeButton"_qs);

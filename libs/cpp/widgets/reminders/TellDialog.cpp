@@ -19,6 +19,7 @@ TellDialog::TellDialog(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     auto *plblText = new QLabel(
         tr("If you like the app<br>please share it with<br>your friends.<br>Thanks!"), this);
+    plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
     auto *pcmdClose = new QPushButton(tr("&Close"), this);
     Common::applyPushButtonDetails(pcmdClose);

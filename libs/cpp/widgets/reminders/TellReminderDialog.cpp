@@ -20,6 +20,7 @@ TellReminderDialog::TellReminderDialog(QWidget *parent)
         = new QLabel(tr("If you like the app %1,<br>Share it with Your Friends.<br>Thanks!")
                          .arg(QCoreApplication::applicationName().toHtmlEscaped()),
             this);
+    plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
     auto *pcmdClose = new QPushButton(tr("&Close"), this);
     Common::applyPushButtonDetails(pcmdClose);
