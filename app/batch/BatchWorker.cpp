@@ -163,7 +163,7 @@ QString BatchWorker::folderFor(const QString &file, const QString &runFolder)
     }
     // Never a path relative to the process: without a URL that applies it is the run's folder.
     const QString mapped = newPathForForlderStructure(file, runFolder);
-    const QString folder = mapped.isEmpty() ? runFolder : mapped;
+    QString folder = mapped.isEmpty() ? runFolder : mapped;
     QMWidgets::App::ensureDirExists(folder);
     return folder;
 }

@@ -2,6 +2,7 @@
 
 #include "Literals.h"
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <QCoreApplication>
 #include <sys/ioctl.h>
@@ -97,7 +98,7 @@ QString ConsoleProgress::timeLeft() const
         return {};
     }
     const double left = static_cast<double>(m_timer.elapsed()) * (100.0 - done) / done / 1000.0;
-    return u"  ("_qs + clock(static_cast<qint64>(left + 0.5)) + u" left)"_qs;
+    return u"  ("_qs + clock(std::llround(left)) + u" left)"_qs;
 }
 
 void ConsoleProgress::draw()
@@ -112,7 +113,7 @@ void ConsoleProgress::draw()
     put(u"\r\x1b[K"_qs + line.left(terminalWidth() - 1));
 }
 
-void ConsoleProgress::clear()
+void ConsoleProgress::clear() const
 {
     if (m_terminal && !m_finished) {
         put(u"\r\x1b[K"_qs);

@@ -28,7 +28,7 @@ public:
 
 private:
     void draw();
-    void clear();
+    void clear() const;
     QString timeLeft() const;
 
     int m_total = 1;

@@ -76,7 +76,7 @@ int ConsoleRun::exec()
     return m_errors.isEmpty() ? AllConverted : SomeFailed;
 }
 
-bool ConsoleRun::prepareDestination()
+bool ConsoleRun::prepareDestination() const
 {
     if (!m_arguments.destination.isEmpty()) {
         QMWidgets::App::overrideSettingsValue(u"DestinationPath"_qs, m_arguments.destination);

@@ -46,7 +46,7 @@ private slots:
 private:
     Q_DISABLE_COPY(ConsoleRun)
 
-    bool prepareDestination();
+    bool prepareDestination() const;
     bool scan();
     void convert();
     void waitForTags();

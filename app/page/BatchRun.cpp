@@ -3,17 +3,12 @@
 #include "BatchThread.h"
 #include "BatchWorker.h"
 #include "Os.h"
-#include <QMutexLocker>
 
 BatchRun::BatchRun(QObject *parent)
     : QObject(parent)
     , m_thread(std::make_unique<BatchThread>())
 {
     connect(worker(), &BatchWorker::notEnoughtFreeSpace, this, &BatchRun::slotPausedBySpace);
-    // On the worker's own thread: nothing is converted between its beginning and the pause.
-    connect(
-        worker(), &BatchWorker::fileProgress, this, [this] { workerBegins(); },
-        Qt::DirectConnection);
 }
 
 BatchRun::~BatchRun()
@@ -58,11 +53,8 @@ void BatchRun::pause(bool pause)
     if (m_over) {
         return;
     }
-    {
-        const QMutexLocker lock(&m_pauseMutex);
-        m_pause = pause;
-        worker()->pause(pause);
-    }
+    m_pause = pause;
+    worker()->pause(pause);
     keepAwake(m_started && !pause);
 }
 
@@ -74,22 +66,9 @@ void BatchRun::stop()
     }
 }
 
-/// The worker clears its pause when it begins: one that was asked for before is set again.
-void BatchRun::workerBegins()
-{
-    const QMutexLocker lock(&m_pauseMutex);
-    if (!m_begun) {
-        m_begun = true;
-        worker()->pause(m_pause);
-    }
-}
-
 void BatchRun::slotPausedBySpace()
 {
-    {
-        const QMutexLocker lock(&m_pauseMutex);
-        m_pause = true;
-    }
+    m_pause = true;
     keepAwake(false);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <QMutex>
 #include <QObject>
 
 class BatchThread;
@@ -45,13 +44,10 @@ private slots:
 
 private:
     Q_DISABLE_COPY(BatchRun)
-    void workerBegins();
     void keepAwake(bool awake);
 
     std::unique_ptr<BatchThread> m_thread;
-    QMutex m_pauseMutex;
-    bool m_pause = false; ///< as the user wants it; guarded by m_pauseMutex
-    bool m_begun = false; ///< the worker's first signal has come; guarded by m_pauseMutex
+    bool m_pause = false;
     bool m_started = false;
     bool m_over = false;
     bool m_awake = false;

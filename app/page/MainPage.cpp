@@ -16,6 +16,8 @@
 #include "PromoMenuBar.h"
 #include "SimpleBookmark.h"
 #include "TracksListDelegate.h"
+#include <algorithm>
+#include <iterator>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -240,13 +242,12 @@ void MainPage::createKeys()
     m_plstTracks->installEventFilter(this);
 
     // From top to bottom, as the eye goes; the order in which the widgets were made is another.
-    QWidget *last = m_plstTracks;
-    const auto inModes = m_pstkModes->findChildren<QWidget *>();
-    for (QWidget *next : inModes + QList<QWidget *> {m_pcmdSettings, m_pcmdConvert}) {
-        if (next->focusPolicy().testFlag(Qt::TabFocus)) {
-            setTabOrder(last, next);
-            last = next;
-        }
+    QList<QWidget *> order {m_plstTracks};
+    const auto openButtons = m_pdropWidget->findChildren<QPushButton *>();
+    std::copy(openButtons.begin(), openButtons.end(), std::back_inserter(order));
+    order << m_psldTimeLine << m_pcmdStop << m_pcmdPlayAndPause << m_pcmdSettings << m_pcmdConvert;
+    for (int i = 1; i < order.size(); ++i) {
+        setTabOrder(order.at(i - 1), order.at(i));
     }
 }
 

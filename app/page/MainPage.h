@@ -27,7 +27,6 @@ class TracksListDelegate;
 namespace QMMultiMedia {
 class MediaSearchDialog;
 class PlayListModel;
-struct MAudioFormat;
 }
 namespace QMWidgets {
 class DropWidget;
@@ -118,7 +117,6 @@ private:
     bool isBusy() const;
     bool isDefaultDestination() const;
     bool openDestination();
-    static QMMultiMedia::MAudioFormat runFormat();
     void fillWorker(BatchWorker *worker);
     BatchRun *createRun();
     void connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop);

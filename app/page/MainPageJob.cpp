@@ -5,9 +5,9 @@
 #include "BatchRun.h"
 #include "BatchThread.h"
 #include "BatchWorker.h"
+#include "ConversionFormat.h"
 #include "Literals.h"
 #include "MainPage.h"
-#include "MAudioFormat.h"
 #include "MediaSearchDialog.h"
 #include "MMessageBox.h"
 #include "Os.h"
@@ -29,15 +29,6 @@ namespace {
 /// The scan begins when its dialog is on the screen, the thread of a run when its own is.
 constexpr int scanDelayMs = 300;
 constexpr int runDelayMs = 1500;
-
-/// The quality class of a value on the scale of 0 to 127.
-int qualityClass(int quality)
-{
-    if (quality >= 85) {
-        return 4;
-    }
-    return quality >= 23 ? 2 : 0;
-}
 
 }
 
@@ -146,18 +137,6 @@ bool MainPage::openDestination()
     return false;
 }
 
-QMMultiMedia::MAudioFormat MainPage::runFormat()
-{
-    QMMultiMedia::MAudioFormat format;
-    format.codec = AppSettingsDialog::codec();
-    format.sampleRate = AppSettingsDialog::sampleRate();
-    format.bitsPerSample = AppSettingsDialog::bitsPerSample();
-    format.channels = AppSettingsDialog::channels();
-    format.bitRate = AppSettingsDialog::bitRate();
-    format.quality = qualityClass(AppSettingsDialog::quality());
-    return format;
-}
-
 BatchRun *MainPage::createRun()
 {
     auto *run = new BatchRun(this);
@@ -175,7 +154,7 @@ BatchRun *MainPage::createRun()
 
 void MainPage::fillWorker(BatchWorker *worker)
 {
-    worker->setSettings(runFormat());
+    worker->setSettings(conversionFormat());
     worker->setInputFiles(m_pmodel->playList().toVector());
     worker->setImageFiles(m_imageFiles);
     worker->setTextFiles(m_textFiles);

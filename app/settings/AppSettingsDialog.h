@@ -83,6 +83,7 @@ private:
     QGroupBox *sourceGroup();
     QGroupBox *afterConversionGroup();
     void applyVariant();
+    void fitToScreen();
 
     QPushButton *m_pcmdOk = nullptr;
     QPushButton *m_pcmdCancel = nullptr;

@@ -9,6 +9,12 @@
 
 namespace QMMultiMedia {
 
+namespace {
+
+constexpr qint64 paintIntervalMs = 40;
+
+}
+
 MediaSearchDialog::MediaSearchDialog(QWidget *parent)
     : QDialog(parent)
 {
@@ -43,8 +49,10 @@ void MediaSearchDialog::slotStart()
     }
     {
         const QScopedValueRollback<bool> searching(m_bSearching, true);
+        m_sincePainted.start();
         search();
     }
+    setUpdatesEnabled(true);
     accept();
 }
 
@@ -77,7 +85,13 @@ void MediaSearchDialog::fileSeen(const QString &file)
 
 void MediaSearchDialog::breathe()
 {
+    // Painting the counters for every small folder would take most of the scan's time.
+    const bool paint = m_sincePainted.elapsed() >= paintIntervalMs;
+    setUpdatesEnabled(paint);
     QCoreApplication::processEvents();
+    if (paint) {
+        m_sincePainted.restart();
+    }
 }
 
 void MediaSearchDialog::showProgress(const QString &file)

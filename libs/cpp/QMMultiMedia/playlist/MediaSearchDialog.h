@@ -51,6 +51,7 @@ private:
 
     QLabel *m_plblFile = nullptr;
     QLabel *m_plblCounters = nullptr;
+    QElapsedTimer m_sincePainted;
     bool m_bSearching = false; ///< slotStart() is on the stack
     bool m_bSkipStart = false; ///< cancelled before it began
 };

@@ -33,9 +33,15 @@ int PlayListModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_lstFiles.size();
 }
 
+/// Also an index that outlived its row is told from one of a track.
+bool PlayListModel::isRow(const QModelIndex &index) const
+{
+    return index.isValid() && index.model() == this && index.row() < m_lstFiles.size();
+}
+
 QVariant PlayListModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!isRow(index)) {
         return {};
     }
     const QString &file = m_lstFiles.at(index.row());
@@ -61,7 +67,7 @@ QVariant PlayListModel::data(const QModelIndex &index, int role) const
 
 bool PlayListModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::EditRole) {
+    if (!isRow(index) || role != Qt::EditRole) {
         return false;
     }
     m_lstFiles[index.row()] = value.toString();

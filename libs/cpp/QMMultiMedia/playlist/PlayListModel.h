@@ -44,6 +44,7 @@ public:
 
 private:
     Q_DISABLE_COPY(PlayListModel)
+    bool isRow(const QModelIndex &index) const;
     static QTime audioFileDuration(const QString &file);
 
     QStringList m_lstFiles;

@@ -1,0 +1,55 @@
+#include "WrappingButton.h"
+
+#include <algorithm>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+WrappingButton::WrappingButton(const QString &text, QWidget *parent)
+    : QPushButton(text, parent)
+{
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QSize WrappingButton::border() const
+{
+    const QSize line = fontMetrics().size(Qt::TextShowMnemonic, text());
+    return (sizeHint() - line).expandedTo(QSize(0, 0));
+}
+
+QSize WrappingButton::minimumSizeHint() const
+{
+    // Two or three lines; never narrower than the longest word.
+    int longest = fontMetrics().horizontalAdvance(text()) * 2 / 5;
+    for (const QString &word : text().split(QLatin1Char(' '))) {
+        longest = std::max(longest, fontMetrics().horizontalAdvance(word));
+    }
+    return {longest + border().width(), sizeHint().height()};
+}
+
+bool WrappingButton::hasHeightForWidth() const
+{
+    return true;
+}
+
+int WrappingButton::heightForWidth(int width) const
+{
+    const int textWidth = std::max(1, width - border().width());
+    const QRect lines = fontMetrics().boundingRect(
+        QRect(0, 0, textWidth, 10000), Qt::TextWordWrap | Qt::AlignCenter, text());
+    return std::max(sizeHint().height(), lines.height() + border().height());
+}
+
+void WrappingButton::paintEvent(QPaintEvent * /*event*/)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QString label = option.text;
+    option.text.clear();
+    painter.drawControl(QStyle::CE_PushButton, option);
+    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    painter.setPen(palette().color(QPalette::ButtonText));
+    painter.drawText(contents, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, label);
+}
