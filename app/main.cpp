@@ -1,22 +1,24 @@
 #include "App.h"
+#include "App_mac.h"
 #include "AudioPlayer.h"
-#include "CalderinStyle.h"
 #include "ConverterResources.h"
 #include "Literals.h"
 #include "MainPage.h"
 #include "MakerHosts.h"
 #include "Os.h"
-#include "App_mac.h"
 #include "PendingExports.h"
 #include "ProgramIdentity.h"
 #include "PromoMenuBar.h"
-#include "SingleInstance.h"
 #include "TerminationSignals.h"
 #include "TranslationResources.h"
 #include "TranslationsManager.h"
 
 #include <QFileInfo>
 #include <QFileOpenEvent>
+#include <QIcon>
+#include <QLabel>
+#include <QSessionManager>
+#include <QUrl>
 
 namespace {
 
@@ -33,21 +35,55 @@ void setIntroduction()
     QStringList slides;
     for (int n = 1; n <= 8; ++n) {
         slides << QMWidgets::App::bundleResourcePath()
-                + u"Slide%1_%2.jpg"_qs.arg(n).arg(language);
+                + u"Slide%1_%2.jpg"_qs.arg(QString::number(n), language);
     }
     QMWidgets::App::setIntroductionSlides(slides);
     QMWidgets::App::setIntroVideosList(MakerHosts::introductionVideos(language));
 }
 
-/// Paths that the desktop put on the command line.
-QStringList pathsOfCommandLine()
+/// Paths and file addresses that the desktop put on the command line, as absolute paths.
+QStringList pathsFromDesktop()
 {
     QStringList paths;
-    for (const QString &argument : QCoreApplication::arguments().mid(1)) {
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    for (const QString &argument : arguments) {
         const QUrl url(argument);
         paths << QFileInfo(url.isLocalFile() ? url.toLocalFile() : argument).absoluteFilePath();
     }
     return paths;
+}
+
+/// The end of the session and the signals that ask for the end act as Stop, then the program quits:
+/// the page waits for the file at hand.
+void connectEnd(QMWidgets::App *app, MainPage *page, const TerminationSignals *termination)
+{
+    const auto end = [page] {
+        page->stopAll();
+        QCoreApplication::quit();
+    };
+    QObject::connect(termination, &TerminationSignals::requested, page, end);
+    QObject::connect(Os::instance(), &Os::atUserLogout, page, end);
+    QObject::connect(
+        app, &QGuiApplication::commitDataRequest, page, [page] { page->stopAll(); },
+        Qt::DirectConnection);
+    QObject::connect(app, &QCoreApplication::aboutToQuit, QMMultiMedia::AudioPlayer::instance(),
+        &QMMultiMedia::AudioPlayer::slotSetAboutToQuit);
+}
+
+/// Tags that are still being written are finished before the end; one that takes long is told.
+void finishExports()
+{
+    std::unique_ptr<QLabel> note;
+    PendingExports::waitForAll([&note](int, qint64 elapsedMs) {
+        if (!note && elapsedMs >= 1000) {
+            note = std::make_unique<QLabel>(
+                QCoreApplication::translate("main", "Finishing the tags of the converted files…"));
+            note->setWindowTitle(QCoreApplication::applicationName());
+            note->setMargin(24);
+            note->show();
+        }
+        QCoreApplication::processEvents();
+    });
 }
 
 }
@@ -67,18 +103,31 @@ int main(int argc, char **argv)
     QMWidgets::TranslationsManager::instance();
     Os::instance();
     App_mac::instance();
-    initConverterResources();
-    QApplication::setStyleSheet(applicationStyleSheet());
+    if (App_mac::handOverToRunningInstance(pathsFromDesktop())) {
+        return 0;
+    }
+    app.setStyleSheet(converterStyleSheet());
     QMWidgets::App::setVelmoraOrgLinks(u"calderin"_qs);
     QMWidgets::App::setPrivacyPolicyLink(MakerHosts::privacyPolicy());
     QMWidgets::App::setShareMessage(u"Click Convert and enjoy your M4A tracks!"_qs);
 
-    MainPage page(nullptr);
-    page.promoMenuBar()->setupAppsMenu(u"audio"_qs);
-    setIntroduction();
-    QMWidgets::App::setMainWidget(&page);
-    page.setWindowTitle(QCoreApplication::applicationName());
-    page.show();
-    QMWidgets::App::showHelpOnStart();
-    return QApplication::exec();
+    int exitCode = 0;
+    {
+        MainPage page(nullptr);
+        page.promoMenuBar()->setupAppsMenu(u"audio"_qs);
+        setIntroduction();
+        QMWidgets::App::setMainWidget(&page);
+        page.setWindowTitle(QCoreApplication::applicationName());
+        const TerminationSignals termination(nullptr);
+        connectEnd(&app, &page, &termination);
+        page.show();
+        QMWidgets::App::showHelpOnStart();
+        const QStringList paths = pathsFromDesktop();
+        for (const QString &path : paths) {
+            QCoreApplication::postEvent(&app, new QFileOpenEvent(path));
+        }
+        exitCode = QApplication::exec();
+    }
+    finishExports();
+    return exitCode;
 }
