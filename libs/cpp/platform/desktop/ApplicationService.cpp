@@ -24,6 +24,13 @@ QString objectPath(const QString &strName)
     return u'/' + QString(strName).replace(u'.', u'/').replace(u'-', u'_');
 }
 
+// A call of the bus itself.
+QDBusMessage busCall(const QString &strMethod)
+{
+    return QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_qs, u"/org/freedesktop/DBus"_qs,
+        u"org.freedesktop.DBus"_qs, strMethod);
+}
+
 QStringList localPaths(const QStringList &lstUris)
 {
     QStringList lstPaths;
@@ -136,7 +143,16 @@ ApplicationService::ApplicationService(const QString &strName, QObject *pobj)
         [] { qDebug() << "There is no session bus: the desktop can't hand files over"; });
 }
 
-ApplicationService::~ApplicationService() = default;
+ApplicationService::~ApplicationService()
+{
+    if (m_claim != nullptr) {
+        const QString strName = m_strName;
+        Bus::session()->whenConnected([strName](QDBusConnection &connection) {
+            connection.unregisterObject(objectPath(strName));
+            connection.send(busCall(u"ReleaseName"_qs) << strName);
+        });
+    }
+}
 
 void ApplicationService::claimName()
 {
@@ -146,10 +162,8 @@ void ApplicationService::claimName()
             emit failed();
             return;
         }
-        auto message = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_qs,
-            u"/org/freedesktop/DBus"_qs, u"org.freedesktop.DBus"_qs, u"RequestName"_qs);
         constexpr uint doNotQueue = 4;
-        message << m_strName << doNotQueue;
+        const QDBusMessage message = busCall(u"RequestName"_qs) << m_strName << doNotQueue;
         m_claim = std::make_unique<Claim>(connection.asyncCall(message, Bus::answerLimitMs / 2));
     });
 }
