@@ -3,6 +3,8 @@
 #include <memory>
 #include <QUrl>
 
+class PlayerEngine;
+
 /// Plays one sound or the sound of one video.
 ///
 /// Opened at once, on any thread and without an event loop; the sound device is opened by play() on a
@@ -49,10 +51,9 @@ public:
     void setNumberOfLoops(int loops);
 
 private:
-    AVAudioPlayer();
+    explicit AVAudioPlayer(std::shared_ptr<PlayerEngine> engine);
     AVAudioPlayer(const AVAudioPlayer &) = delete;
     AVAudioPlayer &operator=(const AVAudioPlayer &) = delete;
 
-    class Engine;
-    std::shared_ptr<Engine> m_engine;
+    std::shared_ptr<PlayerEngine> m_engine;
 };

@@ -1,0 +1,12 @@
+#include "NativeAudioDecoderBase.h"
+
+namespace QMMultiMedia {
+
+NativeAudioDecoderBase::NativeAudioDecoderBase(QObject *parent)
+    : QObject(parent)
+{
+}
+
+NativeAudioDecoderBase::~NativeAudioDecoderBase() = default;
+
+}

@@ -1,0 +1,292 @@
+#include "SoundReading.h"
+
+#include "KeptSounds.h"
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+
+namespace {
+
+/// A multiple of every frame's size.
+constexpr int ChunkBytes = 24 * 5461;
+/// How many chunks a reading that isn't kept is ahead.
+constexpr std::size_t QueueChunks = 8;
+
+std::atomic<qint64> &allKeptBytes()
+{
+    static std::atomic<qint64> bytes {0};
+    return bytes;
+}
+
+bool reserve(qint64 bytes)
+{
+    qint64 used = allKeptBytes().load();
+    while (used + bytes <= SoundReading::KeptLimit) {
+        if (allKeptBytes().compare_exchange_weak(used, used + bytes)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}
+
+SoundReading::SoundReading(const ClientFormat &format)
+    : m_format(format)
+{
+}
+
+SoundReading::~SoundReading()
+{
+    allKeptBytes() -= m_reserved;
+}
+
+std::shared_ptr<SoundReading> SoundReading::start(
+    std::unique_ptr<SoundSource> source, const ClientFormat &format)
+{
+    std::shared_ptr<SoundReading> reading(new SoundReading(format));
+    reading->m_key = source->file().key();
+    reading->m_hasKey = true;
+    reading->m_hasReader = true;
+    reading->m_keeps = reading->mayFit(*source);
+    reading->m_thread = std::thread(
+        [reading, opened = std::move(source)]() mutable { reading->run(std::move(opened)); });
+    return reading;
+}
+
+std::shared_ptr<SoundReading> SoundReading::startHint(const QUrl &url, const ClientFormat &format)
+{
+    std::shared_ptr<SoundReading> reading(new SoundReading(format));
+    reading->m_isHint = true;
+    std::thread([reading, url] { reading->runHint(url); }).detach();
+    return reading;
+}
+
+qint64 SoundReading::keptBytes()
+{
+    return allKeptBytes().load();
+}
+
+bool SoundReading::matches(const FileKey &key, const ClientFormat &format) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_hasKey && m_key == key && m_format == format;
+}
+
+bool SoundReading::provesReadable(const FileKey &key) const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_hasKey && m_key == key && (m_whole || !m_chunks.empty());
+}
+
+bool SoundReading::isWhole() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_whole;
+}
+
+bool SoundReading::isUseless() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return isUselessNow();
+}
+
+bool SoundReading::beginPass(bool last)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (isUselessNow()) {
+        return false;
+    }
+    m_readChunk = 0;
+    m_readOffset = 0;
+    m_hasReader = true;
+    m_dropsRead = last;
+    return true;
+}
+
+void SoundReading::stopKeeping()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_dropsRead = true;
+    m_keeps = false;
+    m_whole = false;
+}
+
+void SoundReading::cancel()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_cancelled = true;
+    if (m_decoder != nullptr) {
+        m_decoder->source().cancel();
+    }
+    m_changed.notify_all();
+}
+
+void SoundReading::join()
+{
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+int SoundReading::read(char *out, int bytes)
+{
+    int filled = 0;
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (filled < bytes) {
+        m_changed.wait(
+            lock, [this] { return m_readChunk < m_chunks.size() || m_ended || m_cancelled; });
+        if (m_cancelled || m_readChunk >= m_chunks.size()) {
+            break;
+        }
+        // Only the reader takes a chunk away that isn't read yet, so the copy needs no lock.
+        const Chunk &chunk = m_chunks[m_readChunk];
+        const int count = std::min(bytes - filled, chunk.size - m_readOffset);
+        const char *from = chunk.data.get() + m_readOffset;
+        lock.unlock();
+        std::memcpy(out + filled, from, static_cast<std::size_t>(count));
+        lock.lock();
+        filled += count;
+        m_readOffset += count;
+        if (m_readOffset == m_chunks[m_readChunk].size) {
+            ++m_readChunk;
+            m_readOffset = 0;
+            dropRead();
+        }
+    }
+    return filled;
+}
+
+/// Lets go of the chunks behind the reader, unless they are kept for another pass. Under the lock.
+void SoundReading::dropRead()
+{
+    if (m_keeps && !m_dropsRead) {
+        return;
+    }
+    while (m_readChunk > 0) {
+        if (m_reserved > 0) {
+            m_reserved -= ChunkBytes;
+            allKeptBytes() -= ChunkBytes;
+        }
+        if (m_empty.size() < 2 && !m_ended) {
+            m_empty.push_back(std::move(m_chunks.front()));
+        }
+        m_chunks.pop_front();
+        --m_readChunk;
+    }
+    m_changed.notify_all();
+}
+
+void SoundReading::runHint(const QUrl &url)
+{
+    OSStatus status = noErr;
+    std::unique_ptr<SoundSource> source = SoundSource::open(url, &status);
+    const bool wanted = source && mayFit(*source);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!wanted || m_cancelled) {
+            m_ended = true;
+            return;
+        }
+        m_key = source->file().key();
+        m_hasKey = true;
+    }
+    run(std::move(source));
+}
+
+bool SoundReading::mayFit(const SoundSource &source) const
+{
+    const double bytes = source.duration() * m_format.rate * bytesPerFrame(m_format.sample);
+    return bytes + ChunkBytes <= static_cast<double>(KeptLimit);
+}
+
+void SoundReading::run(std::unique_ptr<SoundSource> source)
+{
+    SoundDecoder decoder(std::move(source), m_format);
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_decoder = &decoder;
+        if (m_cancelled) {
+            decoder.source().cancel();
+        }
+    }
+    const bool complete = decodeAll(decoder) && decoder.source().file().isUnchanged();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_decoder = nullptr;
+    m_ended = true;
+    m_whole = complete && m_keeps && !m_cancelled;
+    m_empty.clear();
+    if (m_cancelled && !m_hasReader) {
+        m_chunks.clear();
+        allKeptBytes() -= m_reserved;
+        m_reserved = 0;
+    }
+    m_changed.notify_all();
+}
+
+bool SoundReading::decodeAll(SoundDecoder &decoder)
+{
+    for (;;) {
+        Chunk chunk = takeEmptyChunk();
+        chunk.size = decoder.read(chunk.data.get(), ChunkBytes);
+        const bool last = chunk.size < ChunkBytes;
+        if (chunk.size > 0 && !push(std::move(chunk))) {
+            return false;
+        }
+        if (last) {
+            return !decoder.source().file().isCancelled();
+        }
+    }
+}
+
+SoundReading::Chunk SoundReading::takeEmptyChunk()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_empty.empty()) {
+        return {std::unique_ptr<char[]>(new char[ChunkBytes]), 0};
+    }
+    Chunk chunk = std::move(m_empty.back());
+    m_empty.pop_back();
+    return chunk;
+}
+
+/// Appends a chunk; false if the reading is to end.
+bool SoundReading::push(Chunk chunk)
+{
+    const bool reserved = makeRoom();
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (reserved) {
+        m_reserved += ChunkBytes;
+    } else {
+        if (!m_hasReader) {
+            m_cancelled = true; // before anybody can begin to read what will never be whole
+            return false;
+        }
+        m_keeps = false;
+        dropRead();
+        m_changed.wait(lock, [this] { return m_cancelled || m_chunks.size() < QueueChunks; });
+    }
+    if (m_cancelled) {
+        return false;
+    }
+    m_chunks.push_back(std::move(chunk));
+    m_changed.notify_all();
+    return true;
+}
+
+/// Reserves the room of a chunk that is to be kept; false if it isn't.
+bool SoundReading::makeRoom()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_keeps || m_cancelled) {
+            return false;
+        }
+    }
+    while (!reserve(ChunkBytes)) {
+        if (m_isHint || !KeptSounds::instance().forgetOldest()) {
+            return false;
+        }
+    }
+    return true;
+}

@@ -1,0 +1,267 @@
+#include "SoundShaper.h"
+
+#include <cstdint>
+
+extern "C" {
+#include <libavutil/channel_layout.h>
+#include <libavutil/frame.h>
+#include <libavutil/samplefmt.h>
+#include <libswresample/swresample.h>
+}
+
+namespace {
+
+constexpr double MinusThreeDecibels = 0.70710678118654752440;
+/// Beyond these a header is wrong, and the arithmetic of a resampler may be as well.
+constexpr int LowestRate = 100;
+constexpr int HighestRate = 6200000;
+
+bool isWhole(AVSampleFormat format)
+{
+    const AVSampleFormat packed = av_get_packed_sample_fmt(format);
+    return packed == AV_SAMPLE_FMT_U8 || packed == AV_SAMPLE_FMT_S16 || packed == AV_SAMPLE_FMT_S32;
+}
+
+/// One channel of a piece in its own sample type.
+template<typename S>
+struct Channel
+{
+    Channel(const SoundPiece &piece, int channel)
+    {
+        const AVFrame &frame = *piece.frame;
+        const int channels = frame.ch_layout.nb_channels;
+        const bool planar
+            = av_sample_fmt_is_planar(static_cast<AVSampleFormat>(frame.format)) != 0;
+        stride = planar ? 1 : channels;
+        samples = reinterpret_cast<const S *>(frame.extended_data[planar ? channel : 0])
+            + (planar ? 0 : channel) + static_cast<std::ptrdiff_t>(piece.begin) * stride;
+    }
+
+    const S *samples;
+    std::ptrdiff_t stride;
+};
+
+template<typename S, typename T>
+T full(S value)
+{
+    if constexpr (std::is_same_v<S, std::uint8_t>) {
+        if constexpr (std::is_same_v<T, std::int32_t>) {
+            return (static_cast<std::int32_t>(value) - 128) * (1 << 24);
+        } else {
+            return static_cast<T>(value - 128) * T(1.0 / 128.0);
+        }
+    } else if constexpr (std::is_same_v<T, std::int32_t>) {
+        return static_cast<std::int32_t>(value) * (sizeof(S) == 2 ? 1 << 16 : 1);
+    } else if constexpr (std::is_integral_v<S>) {
+        constexpr T Scale = T(1.0 / (static_cast<double>(1ULL << (8 * sizeof(S) - 1))));
+        return static_cast<T>(value) * Scale;
+    } else {
+        return static_cast<T>(value);
+    }
+}
+
+template<typename S, typename T>
+void copyChannel(const Channel<S> &in, int frames, T *out)
+{
+    if (in.stride == 1) {
+        for (int i = 0; i < frames; ++i) {
+            out[i] = full<S, T>(in.samples[i]);
+        }
+    } else if (in.stride == 2) {
+        for (int i = 0; i < frames; ++i) {
+            out[i] = full<S, T>(in.samples[2 * i]);
+        }
+    } else {
+        for (int i = 0; i < frames; ++i) {
+            out[i] = full<S, T>(in.samples[i * in.stride]);
+        }
+    }
+}
+
+template<typename S, typename T>
+void addChannel(const Channel<S> &in, int frames, double gain, T *out)
+{
+    const T factor = static_cast<T>(gain);
+    for (int i = 0; i < frames; ++i) {
+        out[i] += full<S, T>(in.samples[i * in.stride]) * factor;
+    }
+}
+
+/// Copies one or two channels, or mixes more by their gains.
+template<typename S, typename T>
+void fillPlanes(const SoundPiece &piece, const std::vector<double> &gains, T *const planes[2])
+{
+    const int frames = piece.end - piece.begin;
+    const int channels = piece.frame->ch_layout.nb_channels;
+    if (channels <= 2) {
+        for (int c = 0; c < channels; ++c) {
+            copyChannel<S, T>(Channel<S>(piece, c), frames, planes[c]);
+        }
+        return;
+    }
+    if constexpr (!std::is_same_v<T, std::int32_t>) {
+        for (int side = 0; side < 2; ++side) {
+            std::fill(planes[side], planes[side] + frames, T(0));
+            for (int c = 0; c < channels; ++c) {
+                const double gain = gains[2 * static_cast<std::size_t>(c) + side];
+                if (gain != 0.0) {
+                    addChannel<S, T>(Channel<S>(piece, c), frames, gain, planes[side]);
+                }
+            }
+        }
+    }
+}
+
+}
+
+SoundShaper::SoundShaper(int rate, bool precise)
+    : m_rate(rate)
+    , m_precise(precise)
+{
+}
+
+void SoundShaper::process(const SoundPiece &piece, const Sink &sink)
+{
+    const AVFrame &frame = *piece.frame;
+    const auto format = static_cast<AVSampleFormat>(frame.format);
+    const int channels = frame.ch_layout.nb_channels;
+    const bool sameRate = frame.sample_rate == m_rate;
+    if (channels < 1 || frame.sample_rate < LowestRate || frame.sample_rate > HighestRate) {
+        return;
+    }
+    const SampleKind fraction = m_precise ? SampleKind::Double : SampleKind::Float;
+    const SampleKind kind
+        = sameRate && channels <= 2 && isWhole(format) ? SampleKind::Int32 : fraction;
+    if (sameRate) {
+        flush(sink);
+        const SoundBlock block = convertPiece(piece, kind);
+        if (block.frames > 0) {
+            sink(block);
+        }
+        return;
+    }
+    if (!prepareResampler(frame.sample_rate, channels > 1 ? 2 : 1, kind, sink)) {
+        return;
+    }
+    SoundPiece part = piece;
+    while (part.begin < piece.end) {
+        part.end = std::min(piece.end, part.begin + m_resampler->inputLimit());
+        const SoundBlock block = m_resampler->convert(convertPiece(part, kind));
+        if (block.frames > 0) {
+            sink(block);
+        }
+        part.begin = part.end;
+    }
+}
+
+void SoundShaper::flush(const Sink &sink)
+{
+    while (m_resampler) {
+        const SoundBlock block = m_resampler->flush();
+        if (block.frames > 0) {
+            sink(block);
+        } else {
+            m_resampler.reset();
+        }
+    }
+}
+
+bool SoundShaper::prepareResampler(
+    int inputRate, int channels, SampleKind kind, const Sink &sink)
+{
+    if (m_resampler && (m_resampler->inputRate() != inputRate || m_resampler->channels() != channels)) {
+        flush(sink);
+    }
+    if (!m_resampler) {
+        m_resampler = Resampler::create(inputRate, m_rate, channels, kind);
+    }
+    return m_resampler != nullptr;
+}
+
+SoundBlock SoundShaper::convertPiece(const SoundPiece &piece, SampleKind kind)
+{
+    if (piece.frame->ch_layout.nb_channels > 2) {
+        prepareMix(*piece.frame);
+    }
+    switch (kind) {
+    case SampleKind::Int32:
+        return convertPlanes<std::int32_t>(piece, kind);
+    case SampleKind::Float:
+        return convertPlanes<float>(piece, kind);
+    default:
+        return convertPlanes<double>(piece, kind);
+    }
+}
+
+template<typename T>
+SoundBlock SoundShaper::convertPlanes(const SoundPiece &piece, SampleKind kind)
+{
+    const int frames = piece.end - piece.begin;
+    const int channels = std::min(piece.frame->ch_layout.nb_channels, 2);
+    T *planes[2] = {nullptr, nullptr};
+    for (int i = 0; i < channels; ++i) {
+        if (m_planes[i].size() < static_cast<std::size_t>(frames)) {
+            m_planes[i].resize(static_cast<std::size_t>(frames));
+        }
+        planes[i] = reinterpret_cast<T *>(m_planes[i].data());
+    }
+    switch (av_get_packed_sample_fmt(static_cast<AVSampleFormat>(piece.frame->format))) {
+    case AV_SAMPLE_FMT_U8:
+        fillPlanes<std::uint8_t, T>(piece, m_mix.gains, planes);
+        break;
+    case AV_SAMPLE_FMT_S16:
+        fillPlanes<std::int16_t, T>(piece, m_mix.gains, planes);
+        break;
+    case AV_SAMPLE_FMT_S32:
+        fillPlanes<std::int32_t, T>(piece, m_mix.gains, planes);
+        break;
+    case AV_SAMPLE_FMT_S64:
+        fillPlanes<std::int64_t, T>(piece, m_mix.gains, planes);
+        break;
+    case AV_SAMPLE_FMT_FLT:
+        fillPlanes<float, T>(piece, m_mix.gains, planes);
+        break;
+    case AV_SAMPLE_FMT_DBL:
+        fillPlanes<double, T>(piece, m_mix.gains, planes);
+        break;
+    default:
+        return {};
+    }
+    return {kind, channels, frames, {planes[0], planes[1]}};
+}
+
+void SoundShaper::prepareMix(const AVFrame &frame)
+{
+    const int channels = frame.ch_layout.nb_channels;
+    const quint64 mask
+        = frame.ch_layout.order == AV_CHANNEL_ORDER_NATIVE ? frame.ch_layout.u.mask : 0;
+    if (m_mix.channels == channels && m_mix.mask == mask) {
+        return;
+    }
+    m_mix.channels = channels;
+    m_mix.mask = mask;
+    const auto count = static_cast<std::size_t>(channels);
+    m_mix.gains.assign(2 * count, 0.0);
+    AVChannelLayout input {};
+    if (mask != 0) {
+        av_channel_layout_from_mask(&input, mask);
+    } else {
+        av_channel_layout_default(&input, channels);
+    }
+    const AVChannelLayout stereo = AV_CHANNEL_LAYOUT_STEREO;
+    std::vector<double> matrix(2 * count, 0.0);
+    const bool known = input.order == AV_CHANNEL_ORDER_NATIVE
+        && swr_build_matrix2(&input, &stereo, MinusThreeDecibels, MinusThreeDecibels, 0.0, 1.0, 1.0,
+               matrix.data(), channels, AV_MATRIX_ENCODING_NONE, nullptr)
+            >= 0;
+    for (std::size_t c = 0; c < count; ++c) {
+        if (known) {
+            m_mix.gains[2 * c] = matrix[c];
+            m_mix.gains[2 * c + 1] = matrix[count + c];
+        } else {
+            // Channels without a place: the even ones left, the odd ones right.
+            m_mix.gains[2 * c + c % 2] = 1.0 / static_cast<double>((count + 1) / 2);
+        }
+    }
+    av_channel_layout_uninit(&input);
+}
