@@ -1,6 +1,7 @@
 #include "SoundSource.h"
 
 #include <cstdio>
+#include <cstring>
 #include <limits>
 #include <mutex>
 #include <string>
@@ -18,6 +19,7 @@ constexpr int MaxFailuresInARow = 1000;
 /// Samples that a decoder needs before its output is right after a seek.
 constexpr double PrerollSeconds = 0.1;
 constexpr qint64 MaxPaddingFrames = 16384;
+
 constexpr AVRational Microseconds {1, AV_TIME_BASE};
 
 int readBytes(void *opaque, uint8_t *data, int bytes)
@@ -72,6 +74,11 @@ bool isComplete(const AVStream *stream)
     const AVCodecParameters *parameters = stream->codecpar;
     return parameters->codec_id != AV_CODEC_ID_NONE && parameters->sample_rate > 0
         && parameters->ch_layout.nb_channels > 0;
+}
+
+bool isVorbisHeader(const AVPacket &packet)
+{
+    return packet.size >= 7 && std::memcmp(packet.data + 1, "vorbis", 6) == 0;
 }
 
 /// Whether the header alone told what is needed, length included.
@@ -158,6 +165,7 @@ OSStatus SoundSource::openContainer()
     const int probed
         = av_probe_input_buffer2(io, &format, m_file->path().constData(), nullptr, 0, 0);
     container->pb = io;
+    container->flags |= AVFMT_FLAG_CUSTOM_IO;
     container->io_open = refuseToOpen;
     container->codec_whitelist = av_strdup(soundDecoders().c_str());
     if (probed < 0) {
@@ -338,6 +346,16 @@ void SoundSource::feedDecoder()
         avcodec_send_packet(m_decoder.get(), nullptr);
         return;
     }
+    if (isVorbisHeader(*m_packet)) {
+        if (m_packet->data[0] == 1) {
+            // Another link of a chain begins: nothing overlaps with its first block.
+            avcodec_flush_buffers(m_decoder.get());
+            m_firstPacketTime = UnknownTime;
+            m_leadKnown = false;
+        }
+    } else if (m_firstPacketTime == UnknownTime) {
+        m_firstPacketTime = m_packet->pts;
+    }
     avcodec_send_packet(m_decoder.get(), m_packet.get()); // a damaged packet is left out
     av_packet_unref(m_packet.get());
 }
@@ -371,6 +389,10 @@ SoundPiece SoundSource::trim()
     SoundPiece piece {m_frame.get(), 0, m_frame->nb_samples};
     const AVRational perFrame {1, m_frame->sample_rate};
     const qint64 time = timeOfFrame();
+    if (!m_leadKnown) {
+        m_lead = m_firstPacketTime == 0 ? time : 0;
+        m_leadKnown = true;
+    }
     m_nextTime = time + av_rescale_q(m_frame->nb_samples, perFrame, m_stream->time_base);
     if (m_hasEdit) {
         piece = trimToEdit(piece);
@@ -418,9 +440,10 @@ SoundPiece SoundSource::trimPadding(SoundPiece piece, const unsigned char *count
     piece.begin = static_cast<int>(qMin<qint64>(little(0), piece.end));
     const qint64 padding = little(4);
     if (padding > 0) {
-        const AVRational perFrame {1, m_frame->sample_rate};
+        // In Ogg the packet's length counts samples up to the stated end, whatever the rate is now.
         const qint64 kept = m_frame->pkt_duration > 0
-            ? av_rescale_q(m_frame->pkt_duration, m_stream->time_base, perFrame)
+                && m_stream->time_base.den == m_stream->codecpar->sample_rate
+            ? m_frame->pkt_duration + m_lead
             : piece.end - padding;
         piece.end = static_cast<int>(qBound<qint64>(piece.begin, kept, piece.end));
     }
@@ -446,5 +469,6 @@ bool SoundSource::seek(double seconds)
     m_seeking = true;
     m_seekTo = target;
     m_nextTime = from;
+    m_leadKnown = true;
     return true;
 }

@@ -3,6 +3,7 @@
 #include "CoreAudioTypes.h"
 #include "InputFile.h"
 #include "MovEdit.h"
+#include <limits>
 #include <memory>
 #include <QUrl>
 
@@ -63,6 +64,8 @@ private:
         void operator()(AVFrame *frame) const;
     };
 
+    static constexpr qint64 UnknownTime = std::numeric_limits<qint64>::min();
+
     SoundSource() = default;
     SoundSource(const SoundSource &) = delete;
     SoundSource &operator=(const SoundSource &) = delete;
@@ -76,6 +79,7 @@ private:
     bool readPacket();
     SoundPiece trim();
     SoundPiece trimToEdit(SoundPiece piece);
+    /// The counts are the side data of skipped samples, little-endian.
     SoundPiece trimPadding(SoundPiece piece, const unsigned char *counts) const;
     qint64 timeOfFrame() const;
 
@@ -92,6 +96,11 @@ private:
     bool m_drained = false;
     bool m_atEnd = false;
     int m_failuresInARow = 0;
+    qint64 m_firstPacketTime = UnknownTime;
+    /// A Vorbis stream of one page can't tell where it begins; its first packet, which gives no
+    /// sound, is counted then, and all times are late by this.
+    qint64 m_lead = 0;
+    bool m_leadKnown = false;
     qint64 m_zero = 0; ///< time of the first frame that is heard, in the stream's time base
     bool m_zeroKnown = false;
     qint64 m_seekTo = 0; ///< frames before this time are left out after a seek, in the time base
