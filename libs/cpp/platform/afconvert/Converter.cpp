@@ -4,12 +4,26 @@
 #include "M4aCheck.h"
 #include "M4aWriter.h"
 #include "OutputFile.h"
+#include "ParallelEncoder.h"
 #include "WavSource.h"
+#include <algorithm>
+#include <sched.h>
+#include <thread>
 
 namespace {
 
 // Up to here the quick search is meant: the lowest class of a scale of four.
 constexpr int lastFastQuality = 31;
+
+/// The cores that this process may use.
+int usableCores()
+{
+    cpu_set_t cores;
+    if (::sched_getaffinity(0, sizeof cores, &cores) == 0) {
+        return std::max(1, CPU_COUNT(&cores));
+    }
+    return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+}
 
 }
 
@@ -31,9 +45,15 @@ void Converter::convert(const Job &job)
     track.frames = source.frames();
     track.decoderConfig = format.decoderConfig();
     M4aWriter writer(file, std::move(track), packets);
-    AacEncoder encoder(format);
-    encoder.encode(source, 0, packets,
-        [&writer](const std::uint8_t *bytes, std::size_t count) { writer.add(bytes, count); });
+    const AacEncoder::Sink sink
+        = [&writer](const std::uint8_t *bytes, std::size_t count) { writer.add(bytes, count); };
+    const int threads = job.threads > 0 ? job.threads : usableCores();
+    const auto starts = ParallelEncoder::segmentStarts(packets, format, threads);
+    if (threads == 1 || starts.size() == 1) {
+        AacEncoder(format).encode(source, 0, packets, sink);
+    } else {
+        ParallelEncoder(source, format, starts, threads).encode(sink);
+    }
     writer.finish();
     M4aCheck::verify(file.temporaryPath(), source.frames(), packets);
     file.place();

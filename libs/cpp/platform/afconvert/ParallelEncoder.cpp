@@ -1,0 +1,150 @@
+#include "ParallelEncoder.h"
+
+#include "ConvertError.h"
+#include "Seam.h"
+#include "WavSource.h"
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+constexpr int shortestSeconds = 10;
+constexpr int longestSeconds = 90;
+// Bytes of packets that may wait for their turn.
+constexpr std::int64_t waitingBytes = std::int64_t {16} << 20;
+
+}
+
+std::vector<std::int64_t> ParallelEncoder::segmentStarts(
+    std::int64_t packets, const AacFormat &format, int threads)
+{
+    const std::int64_t shortest
+        = static_cast<std::int64_t>(shortestSeconds) * format.sampleRate / packetFrames;
+    std::int64_t longest
+        = static_cast<std::int64_t>(longestSeconds) * format.sampleRate / packetFrames;
+    const std::int64_t packetBytes = std::max<std::int64_t>(
+        1, static_cast<std::int64_t>(format.bitRate) * packetFrames / format.sampleRate / 8);
+    longest = std::clamp(waitingBytes / (packetBytes * (threads + 2)), shortest, longest);
+
+    // The same number for every thread, as far as the segments don't get too short.
+    std::int64_t count = std::max<std::int64_t>((packets + longest - 1) / longest, threads);
+    count = (count + threads - 1) / threads * threads;
+    count = std::clamp<std::int64_t>(packets / shortest, 1, count);
+    std::vector<std::int64_t> starts;
+    for (std::int64_t i = 0; i < count; ++i) {
+        starts.push_back(packets / count * i + packets % count * i / count);
+    }
+    return starts;
+}
+
+ParallelEncoder::ParallelEncoder(const WavSource &source, const AacFormat &format,
+    std::vector<std::int64_t> segmentStarts, int threads)
+    : m_source(source)
+    , m_format(format)
+    , m_starts(std::move(segmentStarts))
+    , m_packets(packetCount(source.frames()))
+    , m_threadCount(std::min(static_cast<std::size_t>(std::max(threads, 1)), m_starts.size()))
+{
+}
+
+ParallelEncoder::~ParallelEncoder()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stop = true;
+    }
+    m_changed.notify_all();
+    for (std::thread &thread : m_threads) {
+        thread.join();
+    }
+}
+
+void ParallelEncoder::encode(const AacEncoder::Sink &sink)
+{
+    while (m_threads.size() < m_threadCount) {
+        try {
+            m_threads.emplace_back(&ParallelEncoder::work, this);
+        } catch (const std::system_error &) {
+            if (m_threads.empty()) {
+                throw;
+            }
+            break; // fewer will do
+        }
+    }
+    PacketRun left = collect(0);
+    std::int64_t from = 0;
+    const auto give = [&sink, &left, &from](std::int64_t end) {
+        for (; from < end; ++from) {
+            const PacketRun::Packet packet = left.at(from);
+            sink(packet.bytes, packet.count);
+        }
+    };
+    for (std::size_t segment = 1; segment < m_starts.size(); ++segment) {
+        PacketRun right = collect(segment);
+        give(Seam::chooseCut(left, right));
+        left = std::move(right);
+    }
+    give(m_packets);
+}
+
+PacketRun ParallelEncoder::collect(std::size_t segment)
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(
+        lock, [this, segment] { return m_failure != nullptr || m_finished.count(segment) > 0; });
+    if (m_failure != nullptr) {
+        std::rethrow_exception(m_failure);
+    }
+    PacketRun run = std::move(m_finished.extract(segment).mapped());
+    ++m_collected;
+    m_changed.notify_all();
+    return run;
+}
+
+void ParallelEncoder::work()
+{
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        // What is finished waits for its turn: threads that are ahead stop for those behind.
+        m_changed.wait(lock, [this] {
+            return m_stop || m_next == m_starts.size() || m_next <= m_collected + m_threadCount;
+        });
+        if (m_stop || m_next == m_starts.size()) {
+            return;
+        }
+        const std::size_t segment = m_next++;
+        lock.unlock();
+        std::exception_ptr failure;
+        try {
+            encodeSegment(segment);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        lock.lock();
+        if (failure != nullptr) {
+            m_failure = m_failure == nullptr ? failure : m_failure;
+            m_stop = true;
+        }
+        m_changed.notify_all();
+    }
+}
+
+void ParallelEncoder::encodeSegment(std::size_t segment)
+{
+    const std::int64_t first = m_starts[segment];
+    const std::int64_t end = segment + 1 == m_starts.size()
+        ? m_packets
+        : std::min(m_starts[segment + 1] + Seam::overlapPackets, m_packets);
+    PacketRun run(first);
+    AacEncoder encoder(m_format);
+    encoder.encode(
+        m_source, first, end, [this, &run](const std::uint8_t *bytes, std::size_t count) {
+            if (m_stop) {
+                throw ConvertError("the conversion was given up");
+            }
+            run.add(bytes, count);
+        });
+    const std::lock_guard lock(m_mutex);
+    m_finished.emplace(segment, std::move(run));
+}
