@@ -7,7 +7,7 @@
 WrappingButton::WrappingButton(const QString &text, QWidget *parent)
     : QPushButton(text, parent)
 {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

@@ -203,7 +203,15 @@ void AppSettingsDialog::createLayout()
     layout->setSpacing(10);
     layout->addWidget(tabs, 1);
     layout->addLayout(buttons);
-    setTabOrder(m_pcmdOk, m_pcmdCancel);
+    QWidget *previous = tabs;
+    for (QWidget *next : QList<QWidget *> {m_pcbxSampleRate, m_pcbxBitRate, m_pcbxBitsPerSample,
+             m_pcbxChannels, m_pcbxQuality, m_pchkFolderStructure, m_pchkCopyMetaTags,
+             m_pchkCopyImages, m_pchkCopyTexts, m_pchkCopyEntireContent, m_pchkPlaySound,
+             m_pchkOpenFolder, m_pcmdOk, m_pcmdCancel}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
+    m_pcbxSampleRate->setFocus();
 }
 
 void AppSettingsDialog::connectSignals()
@@ -250,9 +258,13 @@ QGroupBox *AppSettingsDialog::formatGroup()
     const QPair<QLabel *, QComboBox *> rows[]
         = {{m_plblBitRate, m_pcbxBitRate}, {m_plblBitsPerSample, m_pcbxBitsPerSample},
             {m_plblChannels, m_pcbxChannels}, {m_plblQuality, m_pcbxQuality}};
+    const QList<QWidget *> hidden = hiddenWidgets();
     for (const auto &[label, box] : rows) {
-        form->addRow(label, box);
         label->setBuddy(box);
+        // A hidden row would leave its spacing behind.
+        if (!hidden.contains(box)) {
+            form->addRow(label, box);
+        }
     }
     createGroupLayout(group, 22, 7)->addLayout(form);
     return group;
@@ -281,8 +293,7 @@ QGroupBox *AppSettingsDialog::afterConversionGroup()
 
 void AppSettingsDialog::applyVariant()
 {
-    const Variant variant = currentVariant();
-    switch (variant) {
+    switch (currentVariant()) {
     case Variant::Wav:
         m_pgrpSettings->setTitle(tr("WAV Settings"));
         break;
@@ -296,16 +307,22 @@ void AppSettingsDialog::applyVariant()
         m_pgrpSettings->setTitle(tr("Unknown Settings"));
         break;
     }
+    const QList<QWidget *> hidden = hiddenWidgets();
+    for (QWidget *widget : hidden) {
+        widget->hide();
+    }
+}
+
+QList<QWidget *> AppSettingsDialog::hiddenWidgets() const
+{
     QList<QWidget *> hidden {m_pchkClearList, m_pcbxFormat, m_pcbxDestination};
-    if (variant == Variant::Wav) {
+    if (currentVariant() == Variant::Wav) {
         hidden << m_plblQuality << m_pcbxQuality << m_plblBitRate << m_pcbxBitRate
                << m_pchkCopyMetaTags;
     } else {
         hidden << m_plblBitsPerSample << m_pcbxBitsPerSample << m_plblChannels << m_pcbxChannels;
     }
-    for (QWidget *widget : qAsConst(hidden)) {
-        widget->hide();
-    }
+    return hidden;
 }
 
 QWidget *AppSettingsDialog::effectsTab()
@@ -315,11 +332,13 @@ QWidget *AppSettingsDialog::effectsTab()
     m_pgrpNormalization->setCheckable(true);
     m_pdialNormalization = new DecoratedDial(m_pgrpNormalization);
     m_pdialNormalization->setRange(1, 100);
-    m_pdialNormalization->setMinimumSize(110, 110);
+    m_pdialNormalization->setMinimumSize(150, 104);
+    m_pdialNormalization->setMaximumHeight(110);
     m_pdialNormalization->setAccessibleName(tr("Level in percent"));
     m_plcdNormalization = new QLCDNumber(3, m_pgrpNormalization);
     m_plcdNormalization->setSegmentStyle(QLCDNumber::Flat);
     m_plcdNormalization->setMinimumSize(120, 60);
+    m_plcdNormalization->setMaximumHeight(90);
     connect(m_pdialNormalization, &QDial::valueChanged, m_plcdNormalization,
         QOverload<int>::of(&QLCDNumber::display));
     auto *normalization = new QHBoxLayout(m_pgrpNormalization);
@@ -452,6 +471,19 @@ void AppSettingsDialog::showEvent(QShowEvent *event)
 
 void AppSettingsDialog::fitToScreen()
 {
+    // The style sheet sets sizes when a widget is polished, which for most is after their layouts:
+    // those are told from the inside out.
+    QList<QWidget *> widgets = findChildren<QWidget *>();
+    for (QWidget *widget : qAsConst(widgets)) {
+        widget->ensurePolished();
+    }
+    std::reverse(widgets.begin(), widgets.end());
+    for (QWidget *widget : qAsConst(widgets)) {
+        widget->updateGeometry();
+        if (widget->layout() != nullptr) {
+            widget->layout()->activate();
+        }
+    }
     // The window manager's frame takes some of the screen; what doesn't fit then is scrolled.
     constexpr int FramePixels = 48;
     const QSize available = screen()->availableSize() - QSize(16, FramePixels);

@@ -83,6 +83,7 @@ private:
     QGroupBox *sourceGroup();
     QGroupBox *afterConversionGroup();
     void applyVariant();
+    QList<QWidget *> hiddenWidgets() const;
     void fitToScreen();
 
     QPushButton *m_pcmdOk = nullptr;

@@ -2,6 +2,7 @@
 
 #include "Literals.h"
 
+#include <algorithm>
 #include <QPainter>
 
 DecoratedDial::DecoratedDial(QWidget *parent)
@@ -14,6 +15,11 @@ void DecoratedDial::paintEvent(QPaintEvent *event)
 {
     QDial::paintEvent(event);
     QPainter painter(this);
+    // The words are to stand beside the knob, whose lower part lies between them.
+    QFont font = painter.font();
+    const int blanks = fontMetrics().horizontalAdvance(QString(9, QLatin1Char(' ')));
+    font.setWordSpacing(std::max(0, std::min(width(), height()) * 2 / 3 - blanks));
+    painter.setFont(font);
     //: Below the two ends of the dial; keep the distance between the words.
     painter.drawText(rect(), Qt::AlignHCenter | Qt::AlignBottom, tr("min         max"));
 }

@@ -1,5 +1,6 @@
 #include "PageArea.h"
 
+#include <QEvent>
 #include <QScrollBar>
 
 PageArea::PageArea(QWidget *page, QWidget *parent)
@@ -23,4 +24,26 @@ QSize PageArea::sizeHint() const
 QSize PageArea::minimumSizeHint() const
 {
     return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(), 160};
+}
+
+bool PageArea::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool handled = QScrollArea::eventFilter(watched, event);
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        keepPageWhole();
+    }
+    return handled;
+}
+
+void PageArea::showEvent(QShowEvent *event)
+{
+    keepPageWhole();
+    QScrollArea::showEvent(event);
+}
+
+void PageArea::keepPageWhole()
+{
+    // A minimum height from a style sheet hides the layout's own from the page: without this the
+    // groups would be squeezed instead of scrolled.
+    widget()->setMinimumHeight(widget()->sizeHint().height());
 }

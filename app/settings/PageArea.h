@@ -12,7 +12,13 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private:
     Q_DISABLE_COPY(PageArea)
+
+    void keepPageWhole();
 };

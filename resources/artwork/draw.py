@@ -411,6 +411,23 @@ def updates():
         write(name, text)
 
 
+def messages():
+    """The pictures of message boxes."""
+    disc = '<circle cx="12" cy="12" r="9.8" fill="url(#ground)" stroke="#fff" stroke-width="1.4"/>'
+    triangle = ('<path d="M12 2.6L22.2 20.8H1.8z" fill="url(#ground)" stroke="#fff" stroke-width="1.4" '
+                'stroke-linejoin="round"/>')
+    ask = '<path class="l" d="M9.2 9.8a2.8 2.8 0 1 1 4.3 2.3c-1 .6-1.5 1.1-1.5 2.1"/>'
+    for name, ground, top, bottom, mark in (
+            ("information", disc, "#3f93bd", "#175a7d",
+             '<path class="l" d="M12 11.2v5.6"/><circle class="f" cx="12" cy="7.4" r="1.3"/>'),
+            ("question", disc, "#2fb42f", "#0b6e0b", ask + '<circle class="f" cx="12" cy="17.2" r="1.3"/>'),
+            ("critical", disc, "#d9493e", "#8a120b", '<path class="l" d="M8.6 8.6l6.8 6.8M15.4 8.6l-6.8 6.8"/>'),
+            ("warning", triangle, "#f0a52e", "#a85f00",
+             '<path class="l" d="M12 9v5.2"/><circle class="f" cx="12" cy="17.6" r="1.3"/>')):
+        body = f'<g filter="url(#shadow)">{ground}</g>{mark}'
+        write(name, document(48, 48, 24, 24, vertical("ground", top, bottom) + SHADOW, inks("#fff", "#fff"), body))
+
+
 def rows():
     glyph("note", "note", 64)
     glyph("noteplay", "noteplay", 64, lit=True)
@@ -440,7 +457,7 @@ def surfaces():
             + '<rect width="840" height="280" fill="url(#light)"/>')
     write("Box", document(840, 280, 840, 280, defs, "", body))
 
-    body = ('<rect x="18" y="16" width="804" height="248" rx="22" fill="#000" fill-opacity="0.16" stroke="#fff" '
+    body = ('<rect x="18" y="16" width="804" height="248" rx="22" fill="#000" fill-opacity="0.4" stroke="#fff" '
             'stroke-opacity="0.5" stroke-width="4" stroke-linecap="round" stroke-dasharray="18 13"/>'
             '<g opacity="0.17" fill="none" stroke="#fff" stroke-linecap="round" stroke-linejoin="round" '
             'stroke-width="1.7"><g transform="translate(58 74) scale(5.5)">'
@@ -484,6 +501,7 @@ def maker():
 if __name__ == "__main__":
     program()
     updates()
+    messages()
     rows()
     surfaces()
     maker()
