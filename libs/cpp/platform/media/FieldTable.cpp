@@ -23,21 +23,23 @@ struct Row
 constexpr std::array<Row, 17> rows {{
     {"title", "@nam", {"TIT2", "TITLE", "TITLE", "TITLE", "INAM", "TITLE", "TITLE|DISPLAYNAME"}},
     {"artist", "@ART", {"TPE1", "ARTIST", "ARTIST", "AUTHOR", "IART", "ARTIST|AUTHOR", "ARTIST"}},
-    {"albumName", "@alb", {"TALB", "ALBUM", "ALBUM", "WM/ALBUMTITLE", "IPRD", "ALBUM", "ALBUM"}},
+    {"albumName", "@alb",
+        {"TALB", "ALBUM", "ALBUM", "WM/ALBUMTITLE", "IPRD", "ALBUM|PRODUCT", "ALBUM"}},
     {"creator", "@wrt",
         {"TCOM", "COMPOSER", "COMPOSER", "WM/COMPOSER", "", "COMPOSER", "COMPOSER"}},
     {"type", "@gen", {"TCON", "GENRE", "GENRE", "WM/GENRE", "IGNR", "GENRE", "GENRE"}},
     {"copyrights", "cprt",
         {"TCOP", "COPYRIGHT", "COPYRIGHT", "COPYRIGHT", "ICOP", "COPYRIGHT", "COPYRIGHT"}},
     {"creationDate", "@day",
-        {"TDRC|TYER", "DATE|YEAR", "YEAR", "WM/YEAR", "ICRD", "DATE|YEAR", "YEAR|CREATIONDATE"}},
+        {"TDRC|TYER", "DATE|YEAR", "YEAR|DATE", "WM/YEAR|DATE", "ICRD", "DATE|YEAR",
+            "YEAR|CREATIONDATE"}},
     {"software", "@too",
-        {"TSSE", "ENCODER", "ENCODER|TOOL NAME", "WM/ENCODINGSETTINGS", "ISFT", "ENCODER",
+        {"TSSE", "ENCODER", "ENCODER|TOOL NAME", "WM/ENCODINGSETTINGS", "ISFT", "ENCODER|SOFTWARE",
             "SOFTWARE"}},
     {"artwork", "covr", {"APIC", "", "", "", "", "", "ARTWORK"}},
     {"subject", "@grp",
-        {"TIT1", "GROUPING|CONTENTGROUP", "GROUPING", "WM/CONTENTGROUPDESCRIPTION", "", "GROUPING",
-            "GROUPING"}},
+        {"TIT1", "GROUPING|CONTENTGROUP", "GROUPING", "WM/CONTENTGROUPDESCRIPTION|GROUPING", "",
+            "GROUPING", "GROUPING"}},
     {"", "@cmt",
         {"COMM", "COMMENT|DESCRIPTION", "COMMENT", "DESCRIPTION", "ICMT", "COMMENT", "COMMENT"}},
     {"", "aART",
@@ -137,7 +139,11 @@ void Collector::add(const QString &name, const QStringList &texts)
     if (match->rank < place->second.rank) {
         place->second = {match->rank, texts};
     } else if (match->rank == place->second.rank) {
-        place->second.values += texts;
+        for (const QString &text : texts) {
+            if (!place->second.values.contains(text)) {
+                place->second.values.append(text);
+            }
+        }
     }
 }
 

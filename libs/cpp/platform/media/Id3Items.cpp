@@ -5,6 +5,7 @@
 #include "Literals.h"
 
 #include <optional>
+#include <QMap>
 #include <QRegularExpression>
 #include <taglib/attachedpictureframe.h>
 #include <taglib/commentsframe.h>
@@ -31,10 +32,13 @@ public:
 private:
     void readFrame(const TagLib::ID3v2::Frame &frame);
     void readText(const QString &id, const TagLib::ID3v2::TextIdentificationFrame &frame);
+    void readUserText(const TagLib::ID3v2::UserTextIdentificationFrame &frame);
+    void addUserTexts();
     void readPicture(const TagLib::ID3v2::AttachedPictureFrame &frame);
     int indexOf(const QString &id) const;
 
     QList<AVMetadataItem> m_items;
+    QMap<QString, QString> m_userTexts; ///< by the id of the frame that they stand for
     int m_dateRank = -1;
     bool m_hasFrontCover = false;
 };
@@ -64,6 +68,7 @@ void Id3Reader::read(const TagLib::ID3v2::FrameList &frames)
         }
         readFrame(*frame);
     }
+    addUserTexts();
 }
 
 void Id3Reader::readFrame(const TagLib::ID3v2::Frame &frame)
@@ -77,11 +82,37 @@ void Id3Reader::readFrame(const TagLib::ID3v2::Frame &frame)
         if (comment->description().isEmpty() && indexOf(id) < 0) {
             add(id, toQString(comment->text()));
         }
+    } else if (const auto *user
+        = dynamic_cast<const TagLib::ID3v2::UserTextIdentificationFrame *>(&frame)) {
+        readUserText(*user);
     } else if (const auto *text
         = dynamic_cast<const TagLib::ID3v2::TextIdentificationFrame *>(&frame)) {
         readText(id, *text);
     } else if (const auto *link = dynamic_cast<const TagLib::ID3v2::UrlLinkFrame *>(&frame)) {
         add(id, toQString(link->url()));
+    }
+}
+
+/// A text under a name of the writer's own. Some writers put the comment and the grouping there.
+void Id3Reader::readUserText(const TagLib::ID3v2::UserTextIdentificationFrame &frame)
+{
+    const QString name = toQString(frame.description());
+    const TagLib::StringList fields = frame.fieldList(); // the name, then the texts
+    const QString text = fields.size() > 1 ? toQString(fields[1]) : QString();
+    const bool isComment = name.compare(u"comment"_qs, Qt::CaseInsensitive) == 0;
+    if (isComment || name.compare(u"grouping"_qs, Qt::CaseInsensitive) == 0) {
+        m_userTexts.insert(isComment ? u"COMM"_qs : u"TIT1"_qs, text);
+    }
+    add(u"TXXX"_qs, name + u": "_qs + text);
+}
+
+/// They count where their own frames are missing.
+void Id3Reader::addUserTexts()
+{
+    for (auto text = m_userTexts.cbegin(); text != m_userTexts.cend(); ++text) {
+        if (indexOf(text.key()) < 0) {
+            add(text.key(), text.value());
+        }
     }
 }
 
