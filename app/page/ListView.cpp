@@ -3,6 +3,7 @@
 #include "Literals.h"
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QScrollBar>
 
 namespace {
 
@@ -46,6 +47,23 @@ void ListView::dropEvent(QDropEvent *event)
     event->setDropAction(Qt::CopyAction);
     event->accept();
     emit dropped(urls);
+}
+
+QRect ListView::visualRect(const QModelIndex &index) const
+{
+    // The base class never makes rows narrower again when the window shrinks.
+    QRect row = QListView::visualRect(index);
+    if (row.isValid()) {
+        row.setLeft(0);
+        row.setWidth(viewport()->width());
+    }
+    return row;
+}
+
+void ListView::updateGeometries()
+{
+    QListView::updateGeometries();
+    horizontalScrollBar()->setRange(0, 0);
 }
 
 QStyleOptionViewItem ListView::viewOptions() const

@@ -14,6 +14,8 @@ class ListView : public QListView
 public:
     explicit ListView(QWidget *parent = nullptr);
 
+    QRect visualRect(const QModelIndex &index) const override;
+
 signals:
     /// What was dropped. The drag is still going on: connect it queued to what takes its time.
     void dropped(QList<QUrl> urls);
@@ -23,6 +25,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     QStyleOptionViewItem viewOptions() const override;
+    void updateGeometries() override;
 
 private:
     Q_DISABLE_COPY(ListView)

@@ -2,9 +2,10 @@
 #include "BatchRun.h"
 #include "MediaMaker.h"
 #include "PageFixture.h"
-#include "SimpleProgress.h"
 
+#include <functional>
 #include <QDir>
+#include <QDirIterator>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTest>
@@ -17,18 +18,28 @@ namespace {
 class MainPageRunTest : public PageFixture
 {
 protected:
-    /// Presses Convert; what the page waits for meanwhile is driven from here, so it comes queued.
-    void convert()
+    /// Presses Convert, which returns when the dialog is closed: the script runs meanwhile.
+    void convert(const std::function<void()> &script)
     {
-        QMetaObject::invokeMethod(
-            button("RunBatchButton"), &QPushButton::click, Qt::QueuedConnection);
-        ASSERT_TRUE(waitForDialog());
+        QTimer::singleShot(0, m_page.get(), [this, script] {
+            ASSERT_TRUE(waitFor([this] { return dialog() && dialog()->isVisible(); }));
+            script();
+        });
+        button("RunBatchButton")->click();
+        EXPECT_EQ(dialog(), nullptr);
     }
 
-    void close()
+    void press(const QString &text)
     {
-        QTest::mouseClick(dialogButton(u"Close"_qs), Qt::LeftButton);
-        ASSERT_TRUE(waitFor([this] { return dialog() == nullptr; }));
+        QPushButton *found = dialogButton(text);
+        ASSERT_NE(found, nullptr) << qPrintable(text);
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+
+    void closeWhenDone()
+    {
+        EXPECT_TRUE(waitFor([this] { return dialogButton(u"Close"_qs) != nullptr; }, 30000));
+        press(u"Close"_qs);
     }
 
     bool waitForRuns() const
@@ -36,9 +47,16 @@ protected:
         return waitFor([this] { return m_page->findChildren<BatchRun *>().isEmpty(); }, 30000);
     }
 
-    QStringList filesOfRun(const QString &folder) const
+    /// The names of all files that the runs have left.
+    QStringList filesOfRuns() const
     {
-        return QDir(destination() + folder).entryList(QDir::Files);
+        QStringList names;
+        QDirIterator files(destination(), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            names << QFileInfo(files.next()).fileName();
+        }
+        names.sort();
+        return names;
     }
 };
 
@@ -47,45 +65,30 @@ protected:
 TEST_F(MainPageRunTest, ConvertsPausesFromTheFirstMomentAndEnds)
 {
     drop({tone(u"one.wav"_qs, 1), tone(u"two.wav"_qs, 1)});
-    set(u"KeyFolderStructureActive"_qs, false);
-    convert();
-    EXPECT_EQ(dialog()->size(), m_page->size());
-    // Before the thread has started.
-    QTest::mouseClick(dialogButton(u"Pause"_qs), Qt::LeftButton);
-    ASSERT_TRUE(waitFor([this] { return runFolders().size() == 1; }));
-    EXPECT_FALSE(waitFor(
-        [this] {
-            return !filesOfRun(runFolders().first()).isEmpty()
-                && filesOfRun(runFolders().first()).contains(u"one.m4a"_qs);
-        },
-        1500));
-    QTest::mouseClick(dialogButton(u"Resume"_qs), Qt::LeftButton);
-    ASSERT_TRUE(waitForClose());
-    EXPECT_EQ(filesOfRun(runFolders().first()), (QStringList {u"one.m4a"_qs, u"two.m4a"_qs}));
-    close();
+    convert([this] {
+        EXPECT_EQ(dialog()->size(), m_page->size());
+        press(u"Pause"_qs); // the thread hasn't started yet
+        EXPECT_TRUE(waitFor([this] { return runFolders().size() == 1; }));
+        EXPECT_FALSE(waitFor([this] { return filesOfRuns().contains(u"one.m4a"_qs); }, 1500));
+        press(u"Resume"_qs);
+        closeWhenDone();
+    });
     EXPECT_TRUE(waitForRuns());
+    EXPECT_EQ(filesOfRuns(), (QStringList {u"one.m4a"_qs, u"two.m4a"_qs}));
     EXPECT_EQ(tracks().size(), 2) << "a run leaves the list as it is";
 }
 
 TEST_F(MainPageRunTest, AStopBeforeTheStartHoldsAndTheNextRunWaitsForIt)
 {
     drop({tone(u"one.wav"_qs, 1), tone(u"two.wav"_qs, 1)});
-    set(u"KeyFolderStructureActive"_qs, false);
-    convert();
-    QTest::mouseClick(dialogButton(u"Stop"_qs), Qt::LeftButton);
-    ASSERT_TRUE(waitFor([this] { return dialog() == nullptr; }));
+    convert([this] { press(u"Stop"_qs); });
     ASSERT_EQ(m_page->findChildren<BatchRun *>().size(), 1) << "still to begin";
-
-    convert();
-    EXPECT_EQ(m_page->findChildren<BatchRun *>().size(), 2);
-    ASSERT_TRUE(waitForClose());
-    close();
+    convert([this] {
+        EXPECT_EQ(m_page->findChildren<BatchRun *>().size(), 2);
+        closeWhenDone();
+    });
     EXPECT_TRUE(waitForRuns());
-    QStringList converted;
-    for (const QString &folder : runFolders()) {
-        converted += filesOfRun(folder);
-    }
-    EXPECT_EQ(converted, (QStringList {u"one.m4a"_qs, u"two.m4a"_qs}));
+    EXPECT_EQ(filesOfRuns(), (QStringList {u"one.m4a"_qs, u"two.m4a"_qs}));
 }
 
 TEST_F(MainPageRunTest, AMissingDestinationIsToldAndNothingRuns)
@@ -110,14 +113,12 @@ TEST_F(MainPageRunTest, AMissingDestinationIsToldAndNothingRuns)
 TEST_F(MainPageRunTest, ThePageWaitsForTheFileAtHandWhenItGoes)
 {
     drop({tone(u"one.wav"_qs, 20), tone(u"two.wav"_qs, 20)});
-    convert();
-    ASSERT_TRUE(waitFor([this] { return !runFolders().isEmpty(); }));
-    QTest::mouseClick(dialogButton(u"Stop"_qs), Qt::LeftButton);
-    ASSERT_TRUE(waitFor([this] { return dialog() == nullptr; }));
+    convert([this] {
+        EXPECT_TRUE(waitFor([this] { return filesOfRuns().contains(u"one.wav"_qs); }));
+        press(u"Stop"_qs);
+    });
     const QPointer<BatchRun> run = m_page->findChild<BatchRun *>();
     m_page.reset();
     EXPECT_TRUE(run.isNull());
-    for (const QString &file : filesOfRun(runFolders().first())) {
-        EXPECT_TRUE(file.endsWith(u".m4a"_qs)) << qPrintable(file);
-    }
+    EXPECT_EQ(filesOfRuns(), QStringList {u"one.m4a"_qs});
 }

@@ -108,11 +108,6 @@ BatchDialog *PageFixture::dialog() const
     return m_page->findChild<BatchDialog *>();
 }
 
-bool PageFixture::waitForDialog() const
-{
-    return waitFor([this] { return dialog() != nullptr && dialog()->isVisible(); });
-}
-
 QPushButton *PageFixture::dialogButton(const QString &text) const
 {
     const auto buttons = dialog()->findChildren<QPushButton *>();
@@ -122,9 +117,4 @@ QPushButton *PageFixture::dialogButton(const QString &text) const
         }
     }
     return nullptr;
-}
-
-bool PageFixture::waitForClose() const
-{
-    return waitFor([this] { return dialogButton(u"Close"_qs) != nullptr; }, 30000);
 }

@@ -39,11 +39,9 @@ protected:
 
     /// The dialog of the run that is on; null without one.
     BatchDialog *dialog() const;
-    bool waitForDialog() const;
 
     /// A visible button of the dialog of the run, by its text.
     QPushButton *dialogButton(const QString &text) const;
-    bool waitForClose() const;
 
     QTemporaryDir m_dir;
     std::unique_ptr<MainPage> m_page;

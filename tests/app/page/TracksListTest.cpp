@@ -51,6 +51,7 @@ protected:
         m_view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         m_view.viewport()->setAttribute(Qt::WA_Hover);
         m_view.setMouseTracking(true);
+        m_view.setAcceptDrops(true);
         m_view.resize(420, 300);
     }
 
