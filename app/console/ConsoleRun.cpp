@@ -10,12 +10,12 @@
 #include "PendingExports.h"
 
 #include <cstdio>
-#include <fcntl.h>
 #include <QCoreApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <QUrl>
-#include <unistd.h>
 
 namespace {
 
@@ -24,22 +24,29 @@ void say(const QString &line)
     std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
 }
 
-/// A folder that is missing will be made: then its nearest ancestor that exists has to take it.
+/// Makes the folder where it is missing, and tries whether it takes a file.
 bool isWritableFolder(const QString &path)
 {
-    QFileInfo info(path);
-    while (!info.exists() && info.path() != info.filePath()) {
-        info.setFile(info.path());
-    }
-    return info.isDir()
-        && ::faccessat(
-               AT_FDCWD, QFile::encodeName(info.filePath()).constData(), W_OK | X_OK, AT_EACCESS)
-        == 0;
+    return QDir().mkpath(path) && QTemporaryFile(path + u"calderin-XXXXXX"_qs).open();
 }
 
 QString number(int count, const char *one, const char *many)
 {
     return QString::number(count) + u" "_qs + QString::fromLatin1(count == 1 ? one : many);
+}
+
+/// What the output doesn't have of the source's tags; empty if nothing was lost.
+QString lostTags(const RunReceipt &receipt)
+{
+    using QMMultiMedia::TagReceipt;
+    if (!receipt.tags || receipt.tags->state() == TagReceipt::State::Nothing) {
+        return {};
+    }
+    if (receipt.tags->state() == TagReceipt::State::Failed) {
+        return u"  tags lost: "_qs + receipt.tags->error();
+    }
+    const QStringList lost = receipt.tags->lost();
+    return lost.isEmpty() ? QString() : u"  tags lost: "_qs + lost.join(u", "_qs);
 }
 
 /// The mean bit rate of a finished file in kbit/s, from its size: what it really came to.
@@ -60,7 +67,7 @@ ConsoleRun::~ConsoleRun() = default;
 
 int ConsoleRun::exec()
 {
-    if (!prepareDestination() || !scan()) {
+    if (!scan() || !prepareDestination()) {
         return NothingToDo;
     }
     convert();
@@ -180,7 +187,7 @@ void ConsoleRun::report() const
         if (AppSettingsDialog::normalizationActive()) {
             line += QString::asprintf("%+.1f dB  ", receipt.gainDb);
         }
-        say(line + realBitRate(receipt));
+        say(line + realBitRate(receipt) + lostTags(receipt));
     }
     if (!m_errors.isEmpty()) {
         std::fputs(m_errors.toLocal8Bit().constData(), stderr);

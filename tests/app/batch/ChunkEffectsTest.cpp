@@ -118,21 +118,22 @@ TEST(ChunkEffects, TrimmingWritesFromTheFirstAudibleFrameToJustBeforeTheLastAudi
 
 TEST(ChunkEffects, TrimmingMovesTheFades)
 {
-    std::vector<float> signal(6 * grain, 1.0f);
+    const std::vector<float> signal(6 * grain, 1.0f);
     ChunkEffects::Plan plan = planFor(signal);
     plan.fade = true;
     plan.trim = true;
     plan.fadeInSamples = grain;
     plan.fadeOutSamples = grain;
-    plan.firstAudible = grain;
+    plan.firstAudible = grain + 100;
     plan.lastAudible = 5 * grain;
     plan.normalise = true;
     plan.gain = 0.5f;
     const std::vector<float> out = processed(plan, signal);
-    ASSERT_EQ(out.size(), 4U * grain);
-    EXPECT_NEAR(out[grain - 1], 0.5f, 0.01f); // the ramp ran over both chunks that end inside
-    EXPECT_EQ(out[grain], 0.5f);
-    EXPECT_EQ(out[2 * grain], 0.5f);
+    ASSERT_EQ(out.size(), 4U * grain - 100);
+    EXPECT_NEAR(out[0], 0.5f * 100 / grain, 1e-5); // the ramp began with the chunk
+    EXPECT_NEAR(out[grain - 101], 0.5f, 1e-3);
+    EXPECT_EQ(out[grain - 100], 0.5f);
+    EXPECT_EQ(out[2 * grain - 101], 0.5f); // the fade-out begins with the next chunk
     EXPECT_LT(out.back(), 0.01f);
 }
 

@@ -51,6 +51,13 @@ protected:
         return QString::fromUtf8(text).trimmed().section(u'\n', -1);
     }
 
+    /// Every packet decodes, and the length is that of the source to the sample.
+    static bool isWhole(const QString &file, int seconds)
+    {
+        return MediaMaker::probe(file, u"stream=duration_ts"_qs) == QString::number(seconds * 44100)
+            && MediaMaker::decode(file, u"s16le"_qs).size() >= seconds * 44100 * 4;
+    }
+
     static QStringList tree(const QString &folder)
     {
         QStringList names;
@@ -165,7 +172,7 @@ TEST_F(ConsoleTest, FinishesTheFileAtHandOnAnInterrupt)
     EXPECT_LT(files.size(), 40);
     for (const QString &file : files) {
         EXPECT_TRUE(file.endsWith(u".m4a"_qs)) << file.toStdString();
-        EXPECT_EQ(MediaMaker::decode(out() + u"/"_qs + file, u"s16le"_qs).size(), 20 * 44100 * 4);
+        EXPECT_TRUE(isWhole(out() + u"/"_qs + file, 20)) << file.toStdString();
     }
 }
 
@@ -187,8 +194,7 @@ TEST_F(ConsoleTest, LeavesNoDamagedFileWhenItIsKilled)
     for (const QString &file : tree(out()).filter(u".m4a"_qs)) {
         const QString path = out() + u"/"_qs + file;
         if (QFileInfo(path).size() > 0) {
-            EXPECT_EQ(MediaMaker::decode(path, u"s16le"_qs).size(), 60 * 44100 * 4)
-                << file.toStdString();
+            EXPECT_TRUE(isWhole(path, 60)) << file.toStdString();
         }
     }
 }
