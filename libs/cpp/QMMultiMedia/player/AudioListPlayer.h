@@ -8,9 +8,9 @@
 #include <QStringList>
 #include <QUrl>
 
-class QAbstractItemModel;
-
 namespace QMMultiMedia {
+
+class PlayListModel;
 
 /// Plays a list of files, one after the other, through the application's player.
 class AudioListPlayer : public QObject
@@ -62,8 +62,8 @@ public:
     bool isShuffleMode() const;
     bool isLoopMode() const;
 
-    /// The list as a model of one column, the paths; owned by this object.
-    QAbstractItemModel *playListModel();
+    /// The list as a model; owned by this object.
+    PlayListModel *playListModel();
 
 public Q_SLOTS:
     void setMuted(bool muted);
@@ -86,13 +86,14 @@ private:
     Q_DISABLE_COPY(AudioListPlayer)
     AudioListPlayer();
     void playCurrent();
+    void updateModel();
 
     QList<QUrl> m_playList;
     QList<int> m_indexes;
     int m_current = 0;
     bool m_shuffleMode = false;
     bool m_loopMode = false;
-    QAbstractItemModel *m_model = nullptr;
+    PlayListModel *m_model;
 };
 
 }

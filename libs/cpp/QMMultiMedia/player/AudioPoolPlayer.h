@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AudioPlayersPool.h"
+#include <QPointer>
 
 namespace QMMultiMedia {
 
@@ -18,7 +19,7 @@ private:
     Q_DISABLE_COPY(AudioPoolPlayer)
     AudioPoolPlayer();
 
-    AudioPlayersPool m_pool;
+    QPointer<AudioPlayersPool> m_pool;
 };
 
 }
