@@ -3,6 +3,7 @@
 
 #include "AboutDialog.h"
 #include "AppCatalog.h"
+#include "CssEditor.h"
 #include "HelpDialog.h"
 #include "JoinDialog.h"
 #include "Literals.h"
@@ -93,7 +94,13 @@ void App::slotRateApp()
     }
 }
 
-void App::slotShowCssEditor() { }
+void App::slotShowCssEditor()
+{
+    auto *peditor = new CssEditor(nullptr); // it deletes itself when it is closed
+    peditor->setAttribute(Qt::WA_DeleteOnClose);
+    peditor->setAttribute(Qt::WA_QuitOnClose, false);
+    peditor->show();
+}
 
 void App::slotHelp()
 {

@@ -53,6 +53,7 @@ bool App_mac::handOverToRunningInstance(const QStringList &lstPaths)
 
 void App_mac::slotActivated()
 {
+    raiseMainWidget();
     emit dockClicked();
     if (auto *papp = QMWidgets::App::theApp()) {
         emit papp->dockClicked();

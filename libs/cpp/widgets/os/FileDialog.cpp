@@ -20,8 +20,8 @@ struct Request
 QStringList askAsSheet(
     const Request &request, QFileDialog::FileMode mode, QFileDialog::AcceptMode acceptMode)
 {
-    const QPointer<QFileDialog> pdlg(new QFileDialog(
-        request.pwgt, request.strCaption, request.strDir, request.strFilter)); // see deleteLater
+    const QPointer<QFileDialog> pdlg(new QFileDialog(request.pwgt, request.strCaption,
+        request.strDir, request.strFilter)); // gone with its parent, or below
     pdlg->setFileMode(mode);
     pdlg->setAcceptMode(acceptMode);
     pdlg->setOptions(request.options);
@@ -33,17 +33,15 @@ QStringList askAsSheet(
     QObject::connect(pdlg, &QObject::destroyed, &loop, &QEventLoop::quit);
     pdlg->open();
     loop.exec();
-    if (pdlg.isNull()) {
-        return {};
+    QStringList lstFiles;
+    if (!pdlg.isNull() && pdlg->result() == QDialog::Accepted) {
+        lstFiles = pdlg->selectedFiles();
+        if (request.pstrSelectedFilter != nullptr) {
+            *request.pstrSelectedFilter = pdlg->selectedNameFilter();
+        }
     }
-    pdlg->deleteLater();
-    if (pdlg->result() != QDialog::Accepted) {
-        return {};
-    }
-    if (request.pstrSelectedFilter != nullptr) {
-        *request.pstrSelectedFilter = pdlg->selectedNameFilter();
-    }
-    return pdlg->selectedFiles();
+    delete pdlg;
+    return lstFiles;
 }
 
 }
