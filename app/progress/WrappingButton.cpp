@@ -20,8 +20,7 @@ QSize WrappingButton::border() const
 
 QSize WrappingButton::minimumSizeHint() const
 {
-    // Two or three lines; never narrower than the longest word.
-    int longest = fontMetrics().horizontalAdvance(text()) * 2 / 5;
+    int longest = 0;
     for (const QString &word : text().split(QLatin1Char(' '))) {
         longest = std::max(longest, fontMetrics().horizontalAdvance(word));
     }
