@@ -11,6 +11,7 @@ extern "C" {
 
 namespace {
 
+constexpr int MatrixSide = 64;
 constexpr double MinusThreeDecibels = 0.70710678118654752440;
 /// Beyond these a header is wrong, and the arithmetic of a resampler may be as well.
 constexpr int LowestRate = 100;
@@ -249,15 +250,16 @@ void SoundShaper::prepareMix(const AVFrame &frame)
         av_channel_layout_default(&input, channels);
     }
     const AVChannelLayout stereo = AV_CHANNEL_LAYOUT_STEREO;
-    std::vector<double> matrix(2 * count, 0.0);
+    // The library divides all of a square of its largest size, whatever the layouts.
+    std::vector<double> matrix(MatrixSide * MatrixSide, 0.0);
     const bool known = input.order == AV_CHANNEL_ORDER_NATIVE
         && swr_build_matrix2(&input, &stereo, MinusThreeDecibels, MinusThreeDecibels, 0.0, 1.0, 1.0,
-               matrix.data(), channels, AV_MATRIX_ENCODING_NONE, nullptr)
+               matrix.data(), MatrixSide, AV_MATRIX_ENCODING_NONE, nullptr)
             >= 0;
     for (std::size_t c = 0; c < count; ++c) {
         if (known) {
             m_mix.gains[2 * c] = matrix[c];
-            m_mix.gains[2 * c + 1] = matrix[count + c];
+            m_mix.gains[2 * c + 1] = matrix[MatrixSide + c];
         } else {
             // Channels without a place: the even ones left, the odd ones right.
             m_mix.gains[2 * c + c % 2] = 1.0 / static_cast<double>((count + 1) / 2);

@@ -81,6 +81,11 @@ bool isVorbisHeader(const AVPacket &packet)
     return packet.size >= 7 && std::memcmp(packet.data + 1, "vorbis", 6) == 0;
 }
 
+bool isOpusHeader(const AVPacket &packet)
+{
+    return packet.size >= 19 && std::memcmp(packet.data, "OpusHead", 8) == 0;
+}
+
 /// Whether the header alone told what is needed, length included.
 bool headerTellsAll(const AVFormatContext *container)
 {
@@ -168,7 +173,7 @@ OSStatus SoundSource::openContainer()
     container->flags |= AVFMT_FLAG_CUSTOM_IO;
     container->io_open = refuseToOpen;
     container->codec_whitelist = av_strdup(soundDecoders().c_str());
-    if (probed < 0) {
+    if (probed < 0 || m_file->size() == 0) {
         m_container.reset(container);
         return kAudioFileUnsupportedFileTypeError;
     }
@@ -346,18 +351,28 @@ void SoundSource::feedDecoder()
         avcodec_send_packet(m_decoder.get(), nullptr);
         return;
     }
-    if (isVorbisHeader(*m_packet)) {
+    noticeNewLink();
+    avcodec_send_packet(m_decoder.get(), m_packet.get()); // a damaged packet is left out
+    av_packet_unref(m_packet.get());
+}
+
+/// Another link of a chain begins: nothing overlaps with its first block.
+void SoundSource::noticeNewLink()
+{
+    const AVCodecID codec = m_decoder->codec_id;
+    if (codec == AV_CODEC_ID_VORBIS && isVorbisHeader(*m_packet)) {
         if (m_packet->data[0] == 1) {
-            // Another link of a chain begins: nothing overlaps with its first block.
             avcodec_flush_buffers(m_decoder.get());
             m_firstPacketTime = UnknownTime;
             m_leadKnown = false;
         }
+    } else if (codec == AV_CODEC_ID_OPUS && isOpusHeader(*m_packet)) {
+        // A link with the serial number of the one before comes without a word from the demuxer.
+        avcodec_flush_buffers(m_decoder.get());
+        m_framesToSkip = m_packet->data[10] | m_packet->data[11] << 8;
     } else if (m_firstPacketTime == UnknownTime) {
         m_firstPacketTime = m_packet->pts;
     }
-    avcodec_send_packet(m_decoder.get(), m_packet.get()); // a damaged packet is left out
-    av_packet_unref(m_packet.get());
 }
 
 bool SoundSource::readPacket()
@@ -402,6 +417,11 @@ SoundPiece SoundSource::trim()
         if (data != nullptr && data->size >= 10) {
             piece = trimPadding(piece, data->data);
         }
+    }
+    if (m_framesToSkip > 0) {
+        const int skipped = qMin(m_framesToSkip, piece.end - piece.begin);
+        piece.begin += skipped;
+        m_framesToSkip -= skipped;
     }
     if (m_seeking) {
         const qint64 skip = av_rescale_q(m_seekTo - time, m_stream->time_base, perFrame);

@@ -76,6 +76,7 @@ private:
     void readGaplessInformation();
     bool receiveFrame();
     void feedDecoder();
+    void noticeNewLink();
     bool readPacket();
     SoundPiece trim();
     SoundPiece trimToEdit(SoundPiece piece);
@@ -101,6 +102,7 @@ private:
     /// sound, is counted then, and all times are late by this.
     qint64 m_lead = 0;
     bool m_leadKnown = false;
+    int m_framesToSkip = 0; ///< at the beginning of a link of a chain
     qint64 m_zero = 0; ///< time of the first frame that is heard, in the stream's time base
     bool m_zeroKnown = false;
     qint64 m_seekTo = 0; ///< frames before this time are left out after a seek, in the time base

@@ -1,0 +1,147 @@
+#include "SoundReading.h"
+#include "SoundTestTools.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace SoundTestTools;
+
+namespace {
+
+/// Files as they lie on a disk: not changed in the very tick in which they are read.
+class KeptSoundsTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { ExtAudioFileForgetKept(); }
+    void TearDown() override { ExtAudioFileForgetKept(); }
+
+    QString file(const QString &name) const { return m_folder.filePath(name); }
+
+    /// A WAV of 16 bits with noise.
+    QByteArray makeWave(const QString &name, int frames, quint32 seed) const
+    {
+        const QByteArray raw = noise(frames * 4, seed);
+        EXPECT_TRUE(MediaMaker::writeFile(file(u"raw"_qs), raw));
+        EXPECT_TRUE(MediaMaker::ffmpeg({u"-f"_qs, u"s16le"_qs, u"-ar"_qs, u"44100"_qs, u"-ac"_qs,
+            u"2"_qs, u"-i"_qs, file(u"raw"_qs), file(name)}));
+        settle(name);
+        return raw;
+    }
+
+    void settle(const QString &name) const
+    {
+        EXPECT_TRUE(MediaMaker::waitFor([&] {
+            return QFileInfo(file(name)).metadataChangeTime().msecsTo(QDateTime::currentDateTime())
+                > 40;
+        }));
+    }
+
+    static bool keeps(qint64 bytes) { return SoundReading::keptBytes() >= bytes; }
+
+    QTemporaryDir m_folder;
+};
+
+}
+
+TEST_F(KeptSoundsTest, KeepsOneReadingForASecondPassOnly)
+{
+    const QByteArray raw = makeWave(u"a.wav"_qs, 200000, 1);
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+        EXPECT_TRUE(keeps(raw.size()));
+        // Another format isn't served from it, and doesn't take it away.
+        EXPECT_EQ(readAll(file(u"a.wav"_qs), 44100, 24).frames, 200000);
+        EXPECT_EQ(readAll(file(u"a.wav"_qs), 44100, 24).frames, 200000);
+        EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+        EXPECT_EQ(SoundReading::keptBytes(), 0);
+    }
+    readAll(file(u"a.wav"_qs), 44100, 16);
+    ExtAudioFileForgetKept();
+    EXPECT_EQ(SoundReading::keptBytes(), 0);
+}
+
+TEST_F(KeptSoundsTest, NeverGivesWhatIsNoLongerInTheFile)
+{
+    makeWave(u"a.wav"_qs, 50000, 1);
+    const QByteArray other = makeWave(u"b.wav"_qs, 50000, 2);
+    readAll(file(u"a.wav"_qs), 44100, 16);
+    ASSERT_TRUE(MediaMaker::writeFile(file(u"a.wav"_qs), MediaMaker::bytesOf(file(u"b.wav"_qs))));
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == other);
+    // Read in the very moment of the change: another change of the same size could look the same.
+    const QByteArray third = makeWave(u"c.wav"_qs, 50000, 3);
+    ASSERT_TRUE(MediaMaker::writeFile(file(u"a.wav"_qs), MediaMaker::bytesOf(file(u"c.wav"_qs))));
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == third);
+    ASSERT_TRUE(MediaMaker::writeFile(file(u"a.wav"_qs), MediaMaker::bytesOf(file(u"b.wav"_qs))));
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == other);
+    settle(u"a.wav"_qs);
+    readAll(file(u"a.wav"_qs), 44100, 16);
+    ASSERT_TRUE(QFile::remove(file(u"a.wav"_qs)));
+    EXPECT_EQ(readAll(file(u"a.wav"_qs), 44100, 16).status, -43);
+}
+
+TEST_F(KeptSoundsTest, StaysBelowTheLimitAndReadsOnBeyondIt)
+{
+    // 16 minutes: 169 MB as two channels of 16 bits; stated by one file, hidden by the other.
+    ASSERT_TRUE(MediaMaker::ffmpeg({u"-f"_qs, u"lavfi"_qs, u"-i"_qs,
+        u"anoisesrc=d=960:r=44100:a=0.1"_qs, u"-ac"_qs, u"1"_qs, u"-c:a"_qs, u"pcm_u8"_qs,
+        file(u"long.wav"_qs)}));
+    const QByteArray bytes = MediaMaker::bytesOf(file(u"long.wav"_qs));
+    ASSERT_TRUE(MediaMaker::writeFile(file(u"unknown.au"_qs),
+        QByteArray::fromHex("2e736e640000001cffffffff000000020000ac44000000010000000000000000")
+            + bytes.mid(100)));
+    for (const char *name : {"long.wav", "unknown.au"}) {
+        settle(QLatin1String(name));
+        ExtAudioFileHint(QUrl::fromLocalFile(file(QLatin1String(name))), clientFormat(44100, 16));
+        ExtAudioFileRef opened = nullptr;
+        ASSERT_EQ(
+            ExtAudioFileOpenURL(QUrl::fromLocalFile(file(QLatin1String(name))), &opened), noErr);
+        const AudioStreamBasicDescription format = clientFormat(44100, 16);
+        ASSERT_EQ(ExtAudioFileSetProperty(opened, fourCC("cfmt"), sizeof(format), &format), noErr);
+        qint64 total = 0;
+        qint64 highest = 0;
+        std::vector<char> buffer(400000);
+        UInt32 frames = 1;
+        while (frames > 0) {
+            AudioBufferList list;
+            list.mNumberBuffers = 1;
+            list.mBuffers[0] = {2, static_cast<UInt32>(buffer.size()), buffer.data()};
+            frames = 100000;
+            ASSERT_EQ(ExtAudioFileRead(opened, &frames, &list), noErr);
+            total += frames;
+            highest = std::max(highest, SoundReading::keptBytes());
+        }
+        ExtAudioFileDispose(opened);
+        EXPECT_GT(total, 959 * 44100) << name;
+        EXPECT_LE(highest, SoundReading::KeptLimit);
+        ExtAudioFileForgetKept();
+        EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() == 0; })) << name;
+    }
+}
+
+TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
+{
+    const QByteArray raw = makeWave(u"a.wav"_qs, 300000, 1);
+    const QUrl url = QUrl::fromLocalFile(file(u"a.wav"_qs));
+    const AudioStreamBasicDescription format = clientFormat(44100, 16);
+    ExtAudioFileHint(url, format);
+    ExtAudioFileHint(url, format);
+    EXPECT_TRUE(MediaMaker::waitFor([&] { return keeps(raw.size()); }));
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+    EXPECT_TRUE(keeps(raw.size())); // for the second pass
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+    EXPECT_EQ(SoundReading::keptBytes(), 0);
+
+    // Reading begins while the hint is still at work, in all kinds of moments.
+    for (int i = 0; i < 20; ++i) {
+        ExtAudioFileHint(url, format);
+        EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+        EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+        ExtAudioFileHint(url, format);
+        ExtAudioFileDropHints();
+    }
+    EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() == 0; }));
+    ExtAudioFileHint(QUrl::fromLocalFile(file(u"missing"_qs)), format);
+    ExtAudioFileHint(QUrl::fromLocalFile(u"/dev/zero"_qs), format);
+    ExtAudioFileDropHints();
+}
