@@ -41,6 +41,16 @@ void setIntroduction()
     QMWidgets::App::setIntroVideosList(MakerHosts::introductionVideos(language));
 }
 
+/// The program's icon in the sizes that were drawn.
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256, 512}) {
+        icon.addFile(u":/icons/app-%1.png"_qs.arg(size));
+    }
+    return icon;
+}
+
 /// Paths and file addresses that the desktop put on the command line, as absolute paths.
 QStringList pathsFromDesktop()
 {
@@ -107,6 +117,7 @@ int main(int argc, char **argv)
         return 0;
     }
     app.setStyleSheet(converterStyleSheet());
+    app.setWindowIcon(programIcon());
     QMWidgets::App::setVelmoraOrgLinks(u"calderin"_qs);
     QMWidgets::App::setPrivacyPolicyLink(MakerHosts::privacyPolicy());
     QMWidgets::App::setShareMessage(u"Click Convert and enjoy your M4A tracks!"_qs);
