@@ -105,18 +105,42 @@ template <bool LittleEndian> inline unsigned int word24(const char *source, int 
                         : first << 24U | middle << 16U | last << 8U;
 }
 
+/// Four samples out of three words, each in the top of its word, for every whole four of n; gives
+/// how many samples that were.
+template <typename Take> inline int takeFours24(const char *source, int n, Take take)
+{
+    int i = 0;
+    for (; i + 4 <= n; i += 4, source += 12) {
+        const auto first = loaded<std::uint32_t, false>(source);
+        const auto middle = loaded<std::uint32_t, false>(source + 4);
+        const auto last = loaded<std::uint32_t, false>(source + 8);
+        take(i, first << 8U);
+        take(i + 1, (first >> 24U) << 8U | middle << 16U);
+        take(i + 2, (middle >> 16U) << 8U | last << 24U);
+        take(i + 3, last & 0xFFFFFF00U);
+    }
+    return i;
+}
+
+template <bool LittleEndian, typename Take>
+inline void takeAll24(const char *source, int n, Take take)
+{
+    for (int i = LittleEndian ? takeFours24(source, n, take) : 0; i < n; ++i) {
+        take(i, word24<LittleEndian>(source, i));
+    }
+}
+
 template <bool LittleEndian> inline void raw24ToFloat(const char *source, float *dest, int n)
 {
-    for (int i = 0; i < n; ++i) {
-        dest[i] = static_cast<float>(static_cast<int>(word24<LittleEndian>(source, i))) * fullScale;
-    }
+    takeAll24<LittleEndian>(source, n, [dest](int i, std::uint32_t word) {
+        dest[i] = static_cast<float>(static_cast<int>(word)) * fullScale;
+    });
 }
 
 template <bool LittleEndian> inline void raw24ToWord(const char *source, int *dest, int n)
 {
-    for (int i = 0; i < n; ++i) {
-        dest[i] = static_cast<int>(word24<LittleEndian>(source, i) >> 8U);
-    }
+    takeAll24<LittleEndian>(
+        source, n, [dest](int i, std::uint32_t word) { dest[i] = static_cast<int>(word >> 8U); });
 }
 
 }
@@ -312,20 +336,12 @@ int Util::convert16ToRaw(const int *source, char *dest, int n, bool littleEndian
 
 int Util::convert24ToRaw(const int *source, char *dest, int n)
 {
-    // Four samples make three words.
-    const int groups = n / 12;
-    for (int group = 0; group < groups; ++group) {
-        const auto a = static_cast<std::uint32_t>(source[0]);
-        const auto b = static_cast<std::uint32_t>(source[1]);
-        const auto c = static_cast<std::uint32_t>(source[2]);
-        const auto d = static_cast<std::uint32_t>(source[3]);
-        const std::uint32_t words[3] = {(a & 0xFFFFFFU) | b << 24U, (b >> 8U & 0xFFFFU) | c << 16U,
-            (c >> 16U & 0xFFU) | d << 8U};
-        std::memcpy(dest, words, sizeof words);
-        source += 4;
-        dest += 12;
+    // Four bytes at a time, of which the next sample covers the last one again.
+    const int whole = n >= 4 ? (n - 4) / 3 + 1 : 0;
+    for (int i = 0; i < whole; ++i) {
+        std::memcpy(dest + static_cast<std::ptrdiff_t>(i) * 3, source + i, sizeof *source);
     }
-    for (int i = 0; i < n % 12; ++i) {
+    for (int i = whole * 3; i < n; ++i) {
         dest[i] = static_cast<char>(static_cast<std::uint32_t>(source[i / 3]) >> (i % 3 * 8));
     }
     return 0;
