@@ -1,6 +1,7 @@
 #include "ListView.h"
 
 #include "Literals.h"
+#include <algorithm>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QScrollBar>
@@ -60,10 +61,32 @@ QRect ListView::visualRect(const QModelIndex &index) const
     return row;
 }
 
+void ListView::setLowerOverlay(QWidget *overlay)
+{
+    m_overlay = overlay;
+    updateGeometries();
+}
+
+/// How much of the viewport's height no overlay covers.
+int ListView::clearHeight() const
+{
+    return viewport()->height() - (m_overlay ? m_overlay->height() : 0);
+}
+
+void ListView::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    QListView::scrollTo(index, hint);
+    const int covered = visualRect(index).bottom() + 1 - clearHeight();
+    if (covered > 0) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + covered);
+    }
+}
+
 void ListView::updateGeometries()
 {
     QListView::updateGeometries();
     horizontalScrollBar()->setRange(0, 0);
+    verticalScrollBar()->setMaximum(std::max(0, contentsSize().height() - clearHeight()));
 }
 
 QStyleOptionViewItem ListView::viewOptions() const

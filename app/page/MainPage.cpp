@@ -25,6 +25,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSlider>
 #include <QStackedWidget>
@@ -46,6 +47,9 @@ constexpr int defaultWidth = 370;
 constexpr int defaultHeight = 600;
 
 constexpr int modesHeight = 140;
+
+/// Room for the frame that the window manager draws, which isn't known before the window shows.
+constexpr int titleBarHeight = 36;
 
 enum DestinationRow
 {
@@ -165,6 +169,7 @@ void MainPage::createList()
     overlay->setSpacing(0);
     overlay->addStretch(1);
     overlay->addWidget(m_plblInfo);
+    m_plstTracks->setLowerOverlay(m_plblInfo);
 
     connect(m_pmodel, &PlayListModel::modelReset, this, &MainPage::slotUpdateInfo);
     connect(m_pmodel, &PlayListModel::rowsRemoved, this, &MainPage::slotUpdateInfo);
@@ -255,7 +260,13 @@ void MainPage::restoreSize()
 {
     const QSize stored(App::settingsValue(keyWidth, defaultWidth).toInt(),
         App::settingsValue(keyHeight, defaultHeight).toInt());
-    resize(stored);
+    // On a small screen the lower edge with its buttons would be out of reach.
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        resize(stored);
+        return;
+    }
+    resize(stored.boundedTo(screen->availableSize() - QSize(0, titleBarHeight)));
 }
 
 void MainPage::resizeEvent(QResizeEvent *event)

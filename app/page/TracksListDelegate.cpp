@@ -26,6 +26,12 @@ QRect nameArea(const QRect &row)
         QPoint(row.right() + 2, row.bottom() - 10)};
 }
 
+/// Some languages abbreviate the month with a point of its own.
+QString dateText(const QDateTime &time)
+{
+    return time.toString(u"dd.MMM.yyyy hh:mm:ss"_qs).replace(u".."_qs, u"."_qs);
+}
+
 QFont fontOf(const QStyleOptionViewItem &option, int weight, int pixelSize)
 {
     QFont font(option.font);
@@ -139,8 +145,8 @@ void TracksListDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     painter->setFont(fontOf(option, QFont::Normal, 10));
     QRect dateArea = area;
     dateArea.moveTop(row.bottom() - 10 + 1 - painter->fontMetrics().height());
-    painter->drawText(dateArea, static_cast<int>(Qt::AlignLeft | Qt::AlignAbsolute),
-        lastModified.toString(u"dd.MMM.yyyy hh:mm:ss"_qs));
+    painter->drawText(
+        dateArea, static_cast<int>(Qt::AlignLeft | Qt::AlignAbsolute), dateText(lastModified));
 }
 
 void TracksListDelegate::paintNote(
