@@ -48,8 +48,9 @@ constexpr int defaultHeight = 600;
 
 constexpr int modesHeight = 140;
 
-/// Room for the frame that the window manager draws, which isn't known before the window shows.
-constexpr int titleBarHeight = 36;
+/// How long a window manager takes to draw its frame, and how much of it may be off the screen.
+constexpr int frameDelayMs = 250;
+constexpr int frameTolerance = 8;
 
 enum DestinationRow
 {
@@ -260,13 +261,25 @@ void MainPage::restoreSize()
 {
     const QSize stored(App::settingsValue(keyWidth, defaultWidth).toInt(),
         App::settingsValue(keyHeight, defaultHeight).toInt());
-    // On a small screen the lower edge with its buttons would be out of reach.
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr) {
-        resize(stored);
-        return;
+    resize(stored);
+}
+
+void MainPage::showEvent(QShowEvent *event)
+{
+    PromoMainPage::showEvent(event);
+    // By then the window manager has told how large its frame is.
+    QTimer::singleShot(frameDelayMs, this, &MainPage::fitToScreen);
+}
+
+/// On a small screen the lower edge with its buttons would be out of reach.
+void MainPage::fitToScreen()
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    const int excess = frameGeometry().height() - room.height();
+    if (isWindow() && !isFullScreen() && excess > frameTolerance) {
+        resize(width(), height() - excess);
+        move(x(), room.top());
     }
-    resize(stored.boundedTo(screen->availableSize() - QSize(0, titleBarHeight)));
 }
 
 void MainPage::resizeEvent(QResizeEvent *event)

@@ -94,6 +94,7 @@ private slots:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
     /// The keys of the track list: Space and Enter play the current row, Delete removes it.
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -112,6 +113,7 @@ private:
     void createKeys();
     void connectPlayer();
     void restoreSize();
+    void fitToScreen();
     void showDestination();
     void takeScanResults();
     bool isBusy() const;
