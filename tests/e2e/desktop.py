@@ -80,13 +80,14 @@ class Desktop:
         self.start("Xvfb", "-displayfd", write, "-screen", 0, self.size, "-nolisten", "tcp",
                    pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
-        self.env["DISPLAY"] = ":" + os.read(read, 16).decode().strip()
-        os.close(read)
+        with os.fdopen(read) as number:
+            self.env["DISPLAY"] = ":" + number.readline().strip()
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1",
                          stdout=subprocess.PIPE, text=True)
         self.env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
         self.start("openbox", stderr=subprocess.DEVNULL)
-        wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+        wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK",
+                                                   check=False),
                  what="the window manager")
         socket = runtime / "sound"
         self.start("pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
@@ -107,9 +108,15 @@ class Desktop:
         return int(wait_for(find, seconds, f"the window {title}")[0])
 
     def geometry(self, window):
-        values = dict(line.split("=") for line in
-                      self.run("xdotool", "getwindowgeometry", "--shell", window).split())
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        """Left, top, width and height on the screen, without the window manager's frame."""
+        display = xdisplay.Display(self.env["DISPLAY"])
+        try:
+            target = display.create_resource_object("window", int(window))
+            place = display.screen().root.translate_coords(target, 0, 0)
+            size = target.get_geometry()
+            return place.x, place.y, size.width, size.height
+        finally:
+            display.close()
 
     def click(self, window, x, y, button=1):
         """Clicks at a place of a window; negative numbers count from its right and lower edge."""
@@ -119,6 +126,15 @@ class Desktop:
         self.run("xdotool", "mousemove", x, y)
         time.sleep(0.2)
         self.run("xdotool", "click", button)
+
+    def close_window(self, window):
+        """What the cross in the window's frame does."""
+        display = xdisplay.Display(self.env["DISPLAY"])
+        message = xevent.ClientMessage(window=int(window), data=(32, [X.CurrentTime, 2, 0, 0, 0]),
+                                       client_type=display.intern_atom("_NET_CLOSE_WINDOW"))
+        display.screen().root.send_event(
+            message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        display.close()
 
     def key(self, *keys):
         self.run("xdotool", "key", *keys)

@@ -143,7 +143,12 @@ void takeRun(const Photographer &photographer)
     pictureOf(u"run"_qs, running);
     pictureOf(u"run-paused"_qs, [&](BatchDialog &dialog) {
         running(dialog);
-        dialog.slotPause();
+        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->isCheckable()) {
+                button->click();
+            }
+        }
     });
     pictureOf(u"run-done"_qs, [](BatchDialog &dialog) { dialog.slotProgressChanged(100); });
     const QString log = u"Can not convert: /home/user/Music/broken.mp3\n"
