@@ -285,7 +285,7 @@ QString NativeMetaTags::nsToQString(const QString &text) const
     }
     QString rebuilt(bytes.size() / 2, Qt::Uninitialized);
     for (int i = 0; i < rebuilt.size(); ++i) {
-        rebuilt[i] = QChar(qFromLittleEndian<quint16>(bytes.constData() + 2 * i));
+        rebuilt[i] = QChar(qFromLittleEndian<quint16>(bytes.constData() + qsizetype(i) * 2));
     }
     return rebuilt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AVAsset.h"
+#include "AVMetadataIdentifiers.h"
 
 #include <functional>
 #include <memory>
@@ -9,8 +10,9 @@
 #include <QString>
 #include <QUrl>
 
-inline constexpr QLatin1String AVAssetExportPresetPassthrough("AVAssetExportPresetPassthrough");
-inline constexpr QLatin1String AVFileTypeAppleM4A("com.apple.m4a-audio");
+inline constexpr QLatin1String AVAssetExportPresetPassthrough
+    = latin1("AVAssetExportPresetPassthrough");
+inline constexpr QLatin1String AVFileTypeAppleM4A = latin1("com.apple.m4a-audio");
 
 /// The state of an export.
 enum AVAssetExportSessionStatus

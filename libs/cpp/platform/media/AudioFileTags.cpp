@@ -41,22 +41,14 @@ qint64 tagBytes(const QByteArray &header)
 /// Where the ID3 chunk of a RIFF or AIFF file has its content; 0 if it has none.
 qint64 id3Chunk(QFile &file, bool isBigEndian)
 {
-    constexpr int chunkHeadBytes = 8;
-    constexpr int maximumChunks = 1000;
-    qint64 position = 12;
-    for (int i = 0; i < maximumChunks && file.seek(position); ++i) {
-        const QByteArray head = file.read(chunkHeadBytes);
-        if (head.size() < chunkHeadBytes) {
-            return 0;
-        }
+    qint64 place = 0;
+    forEachChunk(file, isBigEndian, [&place](const QByteArray &head, qint64 body) {
         if (head.left(3).toLower() == "id3") {
-            return position + chunkHeadBytes;
+            place = body;
         }
-        const quint32 size = isBigEndian ? qFromBigEndian<quint32>(head.constData() + 4)
-                                         : qFromLittleEndian<quint32>(head.constData() + 4);
-        position += chunkHeadBytes + size + (size & 1U);
-    }
-    return 0;
+        return place == 0;
+    });
+    return place;
 }
 
 QByteArray rawId3Tag(const QString &path, FileKind kind)
@@ -110,17 +102,15 @@ QString infoWord(const AVMetadataItem &item)
         QLatin1String key; ///< common key, ID3 frame, or iTunes atom with "@"
         const char16_t *word;
     };
-    static constexpr Word words[] = {{QLatin1String("title"), u"title"},
-        {QLatin1String("artist"), u"artist"}, {QLatin1String("albumName"), u"album"},
-        {QLatin1String("creator"), u"composer"}, {QLatin1String("type"), u"genre"},
-        {QLatin1String("copyrights"), u"copyright"}, {QLatin1String("creationDate"), u"year"},
-        {QLatin1String("software"), u"encoding application"},
-        {QLatin1String("trkn"), u"track number"}, {QLatin1String("TRCK"), u"track number"},
-        {QLatin1String("tmpo"), u"tempo"}, {QLatin1String("TBPM"), u"tempo"},
-        {QLatin1String("@cmt"), u"comments"}, {QLatin1String("COMM"), u"comments"},
-        {QLatin1String("description"), u"comments"}, {QLatin1String("TKEY"), u"key signature"},
-        {QLatin1String("TEXT"), u"lyricist"}, {QLatin1String("TSRC"), u"ISRC"},
-        {QLatin1String("TIT3"), u"subtitle"}};
+    static constexpr Word words[] = {{latin1("title"), u"title"}, {latin1("artist"), u"artist"},
+        {latin1("albumName"), u"album"}, {latin1("creator"), u"composer"},
+        {latin1("type"), u"genre"}, {latin1("copyrights"), u"copyright"},
+        {latin1("creationDate"), u"year"}, {latin1("software"), u"encoding application"},
+        {latin1("trkn"), u"track number"}, {latin1("TRCK"), u"track number"},
+        {latin1("tmpo"), u"tempo"}, {latin1("TBPM"), u"tempo"}, {latin1("@cmt"), u"comments"},
+        {latin1("COMM"), u"comments"}, {latin1("description"), u"comments"},
+        {latin1("TKEY"), u"key signature"}, {latin1("TEXT"), u"lyricist"},
+        {latin1("TSRC"), u"ISRC"}, {latin1("TIT3"), u"subtitle"}};
     QString key = item.key().toString();
     if (item.key().type() != QVariant::String) {
         char name[4];

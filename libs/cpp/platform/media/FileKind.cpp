@@ -3,7 +3,9 @@
 #include "AtomReader.h"
 #include "Literals.h"
 
+#include <algorithm>
 #include <QFileInfo>
+#include <QtEndian>
 
 namespace {
 
@@ -62,12 +64,11 @@ bool isMpegFrame(const QByteArray &head)
 
 bool isAtomOfAFile(const QByteArray &head)
 {
-    for (const char *name : {"ftyp", "moov", "mdat", "wide", "free", "skip", "pnot"}) {
-        if (head.mid(4, 4) == name) {
-            return true;
-        }
-    }
-    return false;
+    static const std::initializer_list<const char *> names
+        = {"ftyp", "moov", "mdat", "wide", "free", "skip", "pnot"};
+    const QByteArray found = head.mid(4, 4);
+    return std::any_of(
+        names.begin(), names.end(), [&found](const char *name) { return found == name; });
 }
 
 FileKind kindOfHead(const QByteArray &head)
@@ -115,4 +116,21 @@ bool isReadableFile(const QString &path)
 {
     const QFileInfo info(path);
     return info.isFile() && info.isReadable();
+}
+
+void forEachChunk(QIODevice &device, bool isBigEndian,
+    const std::function<bool(const QByteArray &, qint64)> &visit)
+{
+    constexpr int headerBytes = 8;
+    constexpr int maximumChunks = 1000;
+    qint64 position = 12;
+    for (int i = 0; i < maximumChunks && device.seek(position); ++i) {
+        const QByteArray head = device.read(headerBytes + 4);
+        if (head.size() < headerBytes || !visit(head, position + headerBytes)) {
+            return;
+        }
+        const quint32 size = isBigEndian ? qFromBigEndian<quint32>(head.constData() + 4)
+                                         : qFromLittleEndian<quint32>(head.constData() + 4);
+        position += headerBytes + qint64(size) + (size & 1U);
+    }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <QByteArray>
 #include <QIODevice>
 #include <QString>
 
@@ -26,3 +28,8 @@ FileKind fileKind(QIODevice &device, const QString &suffix);
 /// Whether a path is that of a regular file that may be read. Pipes, sockets and devices aren't:
 /// they would block.
 bool isReadableFile(const QString &path);
+
+/// Calls the function for every chunk of a RIFF or AIFF file, with its first 12 bytes and the place
+/// of its content, until it returns false.
+void forEachChunk(QIODevice &device, bool isBigEndian,
+    const std::function<bool(const QByteArray &head, qint64 body)> &visit);

@@ -133,6 +133,26 @@ QString genreText(const QStringList &texts)
     return names.join(u"; "_qs);
 }
 
+/// What the texts of a frame are worth; nothing for a tempo that doesn't begin with a number.
+QVariant fieldValue(const std::optional<FieldTable::Match> &match, const QStringList &texts)
+{
+    static const QRegularExpression integer(u"^\\s*(\\d{1,9})"_qs);
+    switch (match ? match->field : Field::Title) {
+    case Field::Genre:
+        return genreText(texts);
+    case Field::Tempo: {
+        const QRegularExpressionMatch number = integer.match(texts.value(0));
+        return number.hasMatch() ? QVariant(number.captured(1).toInt()) : QVariant();
+    }
+    case Field::Date:
+    case Field::Track:
+    case Field::Disc:
+        return texts.value(0);
+    default:
+        return texts.join(u"; "_qs);
+    }
+}
+
 /// A second frame of one name: its texts join those of the first, where a field can have several.
 void join(AVMetadataItem &item, Field field, const QStringList &texts)
 {
@@ -155,28 +175,20 @@ void Id3Reader::readText(const QString &id, const TagLib::ID3v2::TextIdentificat
         join(m_items[earlier], match->field, texts);
         return;
     }
-    if (match && match->field == Field::Genre) {
-        add(id, genreText(texts));
-    } else if (match && match->field == Field::Tempo) {
-        static const QRegularExpression integer(u"^\\s*(\\d{1,9})"_qs);
-        const QRegularExpressionMatch number = integer.match(texts.value(0));
-        if (number.hasMatch()) {
-            add(id, number.captured(1).toInt(), MetadataType::integer());
-        }
-    } else if (match && match->field == Field::Date) {
-        if (m_dateRank < 0) {
-            m_dateRank = match->rank;
-            add(id, texts.value(0));
-        } else if (match->rank < m_dateRank) {
-            m_items.removeAt(indexOf(AVMetadataID3MetadataKeyYear));
-            m_dateRank = match->rank;
-            add(id, texts.value(0));
-        }
-    } else if (match && (match->field == Field::Track || match->field == Field::Disc)) {
-        add(id, texts.value(0));
-    } else {
-        add(id, texts.join(u"; "_qs));
+    const QVariant value = fieldValue(match, texts);
+    if (!value.isValid()) {
+        return;
     }
+    if (match && match->field == Field::Date) {
+        if (m_dateRank >= 0 && match->rank > m_dateRank) {
+            return;
+        }
+        if (m_dateRank >= 0) {
+            m_items.removeAt(indexOf(AVMetadataID3MetadataKeyYear));
+        }
+        m_dateRank = match->rank;
+    }
+    add(id, value, value.type() == QVariant::Int ? MetadataType::integer() : MetadataType::text());
 }
 
 void Id3Reader::readPicture(const TagLib::ID3v2::AttachedPictureFrame &frame)

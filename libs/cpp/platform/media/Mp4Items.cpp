@@ -250,7 +250,7 @@ void Mp4Reader::readKeyedItem(const QStringList &keys, const Atom &atom)
     if (index < 0 || index >= keys.size() || !value.value.isValid()) {
         return;
     }
-    const QString key = keys.at(static_cast<int>(index));
+    const QString &key = keys.at(static_cast<int>(index));
     const QString prefix = u"com.apple.quicktime."_qs;
     if (!key.startsWith(prefix)) {
         // Other writers put plain names there: the field's own key, so that its reader finds it.

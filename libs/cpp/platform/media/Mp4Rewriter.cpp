@@ -3,6 +3,7 @@
 #include "AVMetadataIdentifiers.h"
 #include "Literals.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 #include <QBuffer>
@@ -130,12 +131,8 @@ bool Mp4Rewriter::write(const QList<AVMetadataItem> &items)
     if (!writeBytes(m_fileType) || !writeBytes(m_index)) {
         return false;
     }
-    for (const MediaData &data : m_mediaData) {
-        if (!copyRange(data.start, data.end)) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(m_mediaData.cbegin(), m_mediaData.cend(),
+        [this](const MediaData &data) { return copyRange(data.start, data.end); });
 }
 
 bool Mp4Rewriter::readLayout()
@@ -295,12 +292,8 @@ bool Mp4Rewriter::moveChunks()
         data.shift = place - data.start;
         place += data.end - data.start;
     }
-    for (const ChunkTable &table : qAsConst(m_chunkTables)) {
-        if (!moveEntries(table)) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(m_chunkTables.cbegin(), m_chunkTables.cend(),
+        [this](const ChunkTable &table) { return moveEntries(table); });
 }
 
 const Mp4Rewriter::MediaData *Mp4Rewriter::mediaDataAt(qint64 offset) const
@@ -366,7 +359,7 @@ bool Mp4Rewriter::copyRange(qint64 from, qint64 end)
             break;
         }
     }
-    constexpr qint64 blockBytes = 256 * 1024;
+    constexpr qint64 blockBytes = 256LL * 1024;
     if (place < end && !m_source.seek(place)) {
         return fail(u"it can't be read");
     }

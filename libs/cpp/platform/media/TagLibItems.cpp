@@ -7,7 +7,6 @@
 
 #include <QDebug>
 #include <QFile>
-#include <QtEndian>
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
 #include <taglib/apetag.h>
@@ -206,24 +205,12 @@ void appendInfo(Formats *formats, const TagLib::RIFF::Info::Tag *tag)
 /// Whether the ID3 chunk of a WAV file comes before the INFO list.
 bool isId3First(QFile &file)
 {
-    constexpr int headBytes = 8;
-    constexpr int maximumChunks = 1000;
-    qint64 position = 12;
-    for (int i = 0; i < maximumChunks && file.seek(position); ++i) {
-        const QByteArray head = file.read(headBytes + 4);
-        if (head.size() < headBytes) {
-            break;
-        }
-        if (head.left(4).toLower() == "id3 ") {
-            return true;
-        }
-        if (head.startsWith("LIST") && head.endsWith("INFO")) {
-            return false;
-        }
-        const quint32 size = qFromLittleEndian<quint32>(head.constData() + 4);
-        position += headBytes + size + (size & 1U);
-    }
-    return false;
+    bool isFirst = false;
+    forEachChunk(file, false, [&isFirst](const QByteArray &head, qint64) {
+        isFirst = head.left(4).toLower() == "id3 ";
+        return !isFirst && !(head.startsWith("LIST") && head.endsWith("INFO"));
+    });
+    return isFirst;
 }
 
 Formats mpegMetadata(TagLib::FileName name)
@@ -280,9 +267,24 @@ Formats apeMetadata(TagLib::FileName name)
     return formats;
 }
 
-Formats metadataOf(const QString &path, TagLib::FileName name, FileKind kind)
+Formats asfMetadata(TagLib::FileName name)
 {
     Formats formats;
+    TagLib::ASF::File file(name, false);
+    appendAsf(&formats, file.tag());
+    return formats;
+}
+
+Formats aiffMetadata(TagLib::FileName name)
+{
+    Formats formats;
+    TagLib::RIFF::AIFF::File file(name, false);
+    appendId3(&formats, file.hasID3v2Tag() ? file.tag() : nullptr);
+    return formats;
+}
+
+Formats metadataOf(const QString &path, TagLib::FileName name, FileKind kind)
+{
     switch (kind) {
     case FileKind::Mpeg:
         return mpegMetadata(name);
@@ -300,19 +302,15 @@ Formats metadataOf(const QString &path, TagLib::FileName name, FileKind kind)
         return oggMetadata<TagLib::Ogg::Speex::File>(name);
     case FileKind::Ape:
         return apeMetadata(name);
-    case FileKind::Asf: {
-        TagLib::ASF::File file(name, false);
-        appendAsf(&formats, file.tag());
-        return formats;
+    case FileKind::Asf:
+        return asfMetadata(name);
+    case FileKind::Aiff:
+        return aiffMetadata(name);
+    case FileKind::Mp4:
+    case FileKind::Other:
+        break;
     }
-    case FileKind::Aiff: {
-        TagLib::RIFF::AIFF::File file(name, false);
-        appendId3(&formats, file.hasID3v2Tag() ? file.tag() : nullptr);
-        return formats;
-    }
-    default:
-        return formats;
-    }
+    return {};
 }
 
 }
