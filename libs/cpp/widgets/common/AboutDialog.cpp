@@ -17,7 +17,7 @@ namespace QMWidgets {
 namespace {
 
 /// A licence text is some tens of kilobytes; anything larger isn't one.
-constexpr qint64 MaxLicenceBytes = 1024 * 1024;
+constexpr qint64 MaxLicenceBytes = 1 << 20;
 
 } // namespace
 

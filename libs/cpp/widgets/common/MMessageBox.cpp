@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QVariant>
 #include <QVBoxLayout>
 
@@ -79,14 +81,19 @@ void MMessageBox::createLabels(Icon icon, const QString &strText)
     m_plblIcon->setPixmap(
         style()->standardIcon(standardPixmap(icon), nullptr, this).pixmap(IconSize, IconSize));
     m_plblText = new QLabel(strText, this);
-    m_plblText->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    m_plblText->setOpenExternalLinks(true);
+    const bool bRich = Qt::mightBeRichText(strText);
+    if (bRich && strText.contains(u"<a "_qs, Qt::CaseInsensitive)) {
+        m_plblText->setTextInteractionFlags(
+            Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+        m_plblText->setOpenExternalLinks(true);
+    }
     if (m_plblText->sizeHint().width() > WrapWidth) {
         m_plblText->setWordWrap(true);
         m_plblText->setMinimumWidth(WrapWidth);
     }
     // What a screen reader says when the box comes up.
-    setAccessibleDescription(strText);
+    setAccessibleDescription(
+        bRich ? QTextDocumentFragment::fromHtml(strText).toPlainText() : strText);
 }
 
 void MMessageBox::createButtons(int buttons, const QString &strUser)

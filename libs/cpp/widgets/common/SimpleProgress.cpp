@@ -3,7 +3,6 @@
 #include "Literals.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QTimer>
 
 namespace QMWidgets {
@@ -127,16 +126,17 @@ void SimpleProgress::drawText(QPainter *pp) const
     if (m_strText.isEmpty()) {
         return;
     }
-    const QFontMetricsF metrics(font());
-    const QString str = metrics.elidedText(m_strText, Qt::ElideMiddle, width() - 8);
-    QPainterPath path;
-    path.addText((width() - metrics.horizontalAdvance(str)) / 2.0,
-        (height() + metrics.ascent() - metrics.descent()) / 2.0, font(), str);
-    pp->setRenderHint(QPainter::Antialiasing);
-    // The outline keeps the text readable on grey and on green alike.
-    pp->strokePath(
-        path, QPen(QColor(0, 0, 0, 200), 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    pp->fillPath(path, Qt::white);
+    const QString str = fontMetrics().elidedText(m_strText, Qt::ElideMiddle, width() - 8);
+    // The outline keeps the text readable on grey and on green alike. It is drawn as text, not as a
+    // path: the pictures of a colour font have no outlines.
+    pp->setPen(QColor(0, 0, 0, 130));
+    for (int y = -1; y <= 1; ++y) {
+        for (int x = -1; x <= 1; ++x) {
+            pp->drawText(rect().translated(x, y), Qt::AlignCenter, str);
+        }
+    }
+    pp->setPen(Qt::white);
+    pp->drawText(rect(), Qt::AlignCenter, str);
 }
 
 } // namespace QMWidgets

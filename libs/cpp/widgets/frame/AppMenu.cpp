@@ -1,6 +1,7 @@
 #include "AppMenu.h"
 
 #include "App.h"
+#include "CatalogMenu.h"
 #include "Literals.h"
 
 namespace QMWidgets {
@@ -21,6 +22,7 @@ QAction *addTo(QMenu *pmenu, const QString &strIcon, const QString &strText, voi
 AppMenu::AppMenu(QWidget *parent)
     : QMenu(parent)
 {
+    setMenuIconSize(this, 24);
     m_pactRate = addTo(this, u":/star.png"_qs, tr("Rate this App"), &App::slotImmediatelyRate);
     m_pactIntro = addTo(this, u":/Help_hover.png"_qs, tr("Intro"), &App::slotHelp);
     m_pactShare = addTo(this, u":/share_hover.png"_qs, tr("Share"), &App::slotShareApp);

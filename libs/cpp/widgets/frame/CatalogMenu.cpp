@@ -5,9 +5,33 @@
 #include "MakerHosts.h"
 
 #include <QMenu>
+#include <QProxyStyle>
 #include <QSignalMapper>
 
 namespace QMWidgets {
+
+namespace {
+
+class IconSizeStyle : public QProxyStyle
+{
+public:
+    explicit IconSizeStyle(int nSize)
+        : m_nSize(nSize)
+    {
+    }
+
+    int pixelMetric(
+        PixelMetric metric, const QStyleOption *poption, const QWidget *pwgt) const override
+    {
+        return metric == PM_SmallIconSize ? m_nSize
+                                          : QProxyStyle::pixelMetric(metric, poption, pwgt);
+    }
+
+private:
+    int m_nSize = 0;
+};
+
+} // namespace
 
 void addMappedLink(QMenu *pmenu, QSignalMapper *pmapper, const QPixmap &pixmap,
     const QString &strText, const QString &strLink)
@@ -21,6 +45,13 @@ void addMappedLink(QMenu *pmenu, QSignalMapper *pmapper, const QPixmap &pixmap,
     QObject::connect(pact, &QAction::triggered, pmapper, qOverload<>(&QSignalMapper::map));
     pmapper->setMapping(pact, strAddress);
     pmenu->addAction(pact);
+}
+
+void setMenuIconSize(QMenu *pmenu, int nSize)
+{
+    auto *pstyle = new IconSizeStyle(nSize);
+    pstyle->setParent(pmenu);
+    pmenu->setStyle(pstyle);
 }
 
 QString storePage(const QString &strName, const QString &strId)

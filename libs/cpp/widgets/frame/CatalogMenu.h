@@ -19,6 +19,10 @@ void addMappedLink(QMenu *pmenu, QSignalMapper *pmapper, const QPixmap &pixmap,
 /// The store's web address of a product and its identifier ("id" and digits).
 QString storePage(const QString &strName, const QString &strId);
 
+/// Shows a menu's icons in this size (pixels). A style sheet's "icon-size" alone gives them the
+/// room, but not the size.
+void setMenuIconSize(QMenu *pmenu, int nSize);
+
 /// Opens a menu below a button, at its leading edge. Returns at once.
 void popupBelow(QMenu *pmenu, const QWidget *pwgt);
 

@@ -16,6 +16,7 @@ MoreAppsButton::MoreAppsButton(QWidget *parent)
 {
     setObjectName(u"MoreButton"_qs);
     m_pmenu->setObjectName(u"CatalogMenu"_qs);
+    setMenuIconSize(m_pmenu, 32);
     setFlat(true);
     setToolTip(tr("More"));
     setAccessibleName(toolTip());
@@ -45,7 +46,7 @@ void MoreAppsButton::addMenuSeparator()
     m_pmenu->addSeparator();
 }
 
-void MoreAppsButton::slotCallUrl(QString strUrl)
+void MoreAppsButton::slotCallUrl(const QString &strUrl)
 {
     App::openAddress(strUrl);
 }

@@ -30,7 +30,7 @@ public:
 
 public slots:
     /// Opens an address with the desktop's program for it.
-    void slotCallUrl(QString strUrl);
+    void slotCallUrl(const QString &strUrl);
 
 private:
     QMenu *m_pmenu = nullptr;

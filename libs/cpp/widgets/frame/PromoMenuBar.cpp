@@ -21,6 +21,7 @@ PromoMenuBar::PromoMenuBar(QWidget *parent, bool bQuitSignal)
 {
     setObjectName(u"MenuBar"_qs);
     m_pmenuMore->setObjectName(u"CatalogMenu"_qs);
+    setMenuIconSize(m_pmenuMore, 32);
     createButtons(bQuitSignal);
     createLayout();
     connectButtons();
@@ -203,7 +204,7 @@ void PromoMenuBar::hideSupportPageAction()
     m_pcmdApp->hideSupportPageAction();
 }
 
-void PromoMenuBar::slotCallUrl(QString strUrl)
+void PromoMenuBar::slotCallUrl(const QString &strUrl)
 {
     App::openAddress(strUrl);
 }

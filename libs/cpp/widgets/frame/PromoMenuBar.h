@@ -69,7 +69,7 @@ signals:
 
 public slots:
     /// Opens an address with the desktop's program for it.
-    void slotCallUrl(QString strUrl);
+    void slotCallUrl(const QString &strUrl);
 
 private:
     void createButtons(bool bQuitSignal);

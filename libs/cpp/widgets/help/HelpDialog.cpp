@@ -97,8 +97,20 @@ QString HelpDialog::videoPage(const QString &strLink)
 void HelpDialog::showEvent(QShowEvent *pe)
 {
     m_pcmdSkip->setVisible(!m_bNoNeverShowButton && isShowOnStartAvailable());
+    setTabOrder();
     QDialog::showEvent(pe);
     m_pview->slotStartSlideShow();
+}
+
+void HelpDialog::setTabOrder()
+{
+    // The numbers came last, but stand above the buttons.
+    const auto lst = m_pview->findChildren<QPushButton *>();
+    QWidget *pwgt = lst.isEmpty() ? static_cast<QWidget *>(m_pview) : lst.constLast();
+    for (QPushButton *pcmd : {m_pcmdSkip, m_pcmdVideo, m_pcmdClose}) {
+        QWidget::setTabOrder(pwgt, pcmd);
+        pwgt = pcmd;
+    }
 }
 
 void HelpDialog::hideEvent(QHideEvent *pe)

@@ -43,6 +43,7 @@ protected:
 
 private:
     void createLayout();
+    void setTabOrder();
 
     HelpViewArea *m_pview = nullptr;
     QPushButton *m_pcmdClose = nullptr;

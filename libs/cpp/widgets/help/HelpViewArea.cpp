@@ -71,7 +71,7 @@ void HelpViewArea::applyItemButtonProperties(QPushButton *pcmd, const QString &s
     pcmd->setFixedSize(18, 18);
 }
 
-void HelpViewArea::slotShowSlide(QString strPath)
+void HelpViewArea::slotShowSlide(const QString &strPath)
 {
     m_pdisplay->setSlide(strPath);
     const QAbstractButton *pcmd = m_pgroup->checkedButton();

@@ -30,8 +30,11 @@ public:
     /// Milliseconds between two slides; 5000 at first.
     void setInterval(int nMsecs);
 
+    /// Gives a button the look and behaviour of the numbers.
+    static void applyItemButtonProperties(QPushButton *pcmd, const QString &strText);
+
 public slots:
-    void slotShowSlide(QString strPath);
+    void slotShowSlide(const QString &strPath);
     void slotShowNextSlide();
 
     /// Begins with the slide that was on show, else with the first.
@@ -42,8 +45,6 @@ public slots:
     void slotButtonClicked();
 
 private:
-    static void applyItemButtonProperties(QPushButton *pcmd, const QString &strText);
-
     QTimer *m_ptimer = nullptr;
     HelpDisplay *m_pdisplay = nullptr;
     QSignalMapper *m_pmapper = nullptr;
