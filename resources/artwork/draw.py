@@ -199,13 +199,15 @@ SHADOW = ('<filter id="shadow" x="-20%" y="-20%" width="140%" height="150%">'
           '<feMerge><feMergeNode/><feMergeNode in="SourceGraphic"/></feMerge></filter>')
 
 
-def glyph(name, key, size=32, lit=False, accent=GREEN, scale=1.0):
-    """A glyph alone: brushed metal at rest, white with its accent when lit."""
+def glyph(name, key, size=32, lit=False, accent=GREEN, left=0):
+    """A glyph alone: brushed metal at rest, white with its accent when lit; left of it a margin."""
     metal = vertical("metal", "#ffffff" if lit else "#f1f2f3", "#ececec" if lit else "#b3b6ba")
     style = inks("url(#metal)", accent if lit else "url(#metal)")
-    margin = 12 * (1 - scale)
-    body = f'<g filter="url(#shadow)" transform="translate({margin} {margin}) scale({scale})">{GLYPHS[key]}</g>'
-    write(name, document(size, size, 24, 24, metal + SHADOW, style, body))
+    turn = 180 if name == "dislike" else 0
+    body = (f'<g filter="url(#shadow)" transform="translate({left} 0)"><g transform="rotate({turn} 12 12)">'
+            f"{GLYPHS[key]}</g></g>")
+    write(name, document(size + left, size, 24 + left * 24 // size, 24, metal + SHADOW, style, body))
+
 
 
 FACES = {
@@ -319,9 +321,9 @@ def strip_and_menus():
                              ("_chk_hvr", "folderopen", True)):
         glyph("BrowseButton" + suffix, key, 24, lit)
     glyph("Button_GoTo", "goto", 16, lit=True)
-    glyph("like", "like", 24, lit=True)
-    write("dislike", open(os.path.join(HERE, "like.svg"), encoding="utf-8").read()
-          .replace(GREEN, "#ff8d82").replace('scale(1.0)">', 'scale(1.0) rotate(180 12 12)">'))
+    glyph("like", "like", 24, lit=True, left=8)
+    glyph("dislike", "like", 24, lit=True, accent="#ff8d82", left=8)
+
 
 
 def buttons():
@@ -450,11 +452,16 @@ def wave(width, middle, height, period, count, colour, opacity):
 
 
 def surfaces():
+    # Fades out to the sides: in a wide window the panel's own ground goes on from there.
     defs = (vertical("ground", "#47494d", "#161718", 280)
-            + '<radialGradient id="light" cx="0.5" cy="0" r="0.8"><stop offset="0" stop-color="#fff" stop-opacity="0.16"/>'
+            + '<linearGradient id="sides"><stop offset="0" stop-color="#000"/><stop offset="0.28" stop-color="#fff"/>'
+              '<stop offset="0.72" stop-color="#fff"/><stop offset="1" stop-color="#000"/></linearGradient>'
+              '<mask id="fade"><rect width="840" height="280" fill="url(#sides)"/></mask>'
+              '<radialGradient id="light" cx="0.5" cy="0" r="0.8"><stop offset="0" stop-color="#fff" stop-opacity="0.16"/>'
               '<stop offset="1" stop-color="#fff" stop-opacity="0"/></radialGradient>')
-    body = ('<rect width="840" height="280" fill="url(#ground)"/>' + wave(840, 150, 190, 11, 70, "#fff", 0.07)
-            + '<rect width="840" height="280" fill="url(#light)"/>')
+    body = ('<g mask="url(#fade)"><rect width="840" height="280" fill="url(#ground)"/>'
+            + wave(840, 150, 190, 11, 70, "#fff", 0.07)
+            + '<rect width="840" height="280" fill="url(#light)"/></g>')
     write("Box", document(840, 280, 840, 280, defs, "", body))
 
     body = ('<rect x="18" y="16" width="804" height="248" rx="22" fill="#000" fill-opacity="0.4" stroke="#fff" '

@@ -1,7 +1,11 @@
 #include "ConverterResources.h"
 #include "Literals.h"
+#include "MediaMaker.h"
 
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
@@ -90,4 +94,23 @@ TEST(StyleTest, TheSheetIsReadToItsEnd)
         + u"\nQPushButton#LastRuleOfTheSheet { min-width: 321px; border: none; padding: 0px; }"_qs);
     button.ensurePolished();
     EXPECT_EQ(button.minimumWidth(), 321);
+}
+
+// A clipped or cut sound is an unpleasant end of a run.
+TEST(StyleTest, TheBellIsSoftAndRingsOut)
+{
+    const QString bell = QCoreApplication::applicationDirPath() + u"/../Resources/bell.wav"_qs;
+    const QByteArray bytes = MediaMaker::decode(bell, u"f32le"_qs);
+    const auto *samples = reinterpret_cast<const float *>(bytes.constData());
+    const int count = bytes.size() / static_cast<int>(sizeof(float));
+    ASSERT_GT(count, 2 * 44100);
+    float peak = 0;
+    float step = 0;
+    for (int i = 2; i < count; ++i) {
+        peak = std::max(peak, std::abs(samples[i]));
+        step = std::max(step, std::abs(samples[i] - samples[i - 2]));
+    }
+    EXPECT_NEAR(peak, 0.4F, 0.01F);
+    EXPECT_LT(step, 0.15F);
+    EXPECT_LT(std::abs(samples[0]) + std::abs(samples[count - 1]), 0.001F);
 }
