@@ -24,8 +24,9 @@ public:
 
     bool eventFilter(QObject *pobj, QEvent *pe) override
     {
-        auto *pcmd = static_cast<QPushButton *>(parent());
-        if (pobj == pcmd && pe->type() == QEvent::Show && !pcmd->text().isEmpty()) {
+        // A button that is on its way out still gets events, but isn't one any more.
+        auto *pcmd = pe->type() == QEvent::Show ? qobject_cast<QPushButton *>(pobj) : nullptr;
+        if (pcmd != nullptr && !pcmd->text().isEmpty()) {
             pcmd->setMinimumWidth(qMax(pcmd->minimumWidth(), pcmd->sizeHint().width()));
         }
         return QObject::eventFilter(pobj, pe);
