@@ -38,7 +38,7 @@ void DownloadManager::download(const QUrl &url)
 
 void DownloadManager::slotCheckSize()
 {
-    if (m_preply.isNull() || m_nSizeLimit <= 0) {
+    if (m_preply == nullptr || m_nSizeLimit <= 0) {
         return;
     }
     const qint64 nStated = m_preply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
@@ -56,7 +56,7 @@ void DownloadManager::slotDownloadProgress(qint64 nReceived, qint64 nTotal)
 void DownloadManager::slotFinished(QNetworkReply *preply)
 {
     if (m_preply == preply) {
-        m_preply.clear();
+        m_preply = nullptr;
     }
     preply->deleteLater();
     if (preply->error() == QNetworkReply::NoError) {
@@ -70,16 +70,10 @@ void DownloadManager::slotFinished(QNetworkReply *preply)
 void DownloadManager::slotAbort()
 {
     // The end of the reply is told from within the abort, and clears the member.
-    const QPointer<QNetworkReply> preply = m_preply;
-    if (preply.isNull()) {
-        return;
-    }
-    preply->abort();
-    if (!preply.isNull()) {
+    if (QNetworkReply *preply = m_preply) {
+        m_preply = nullptr;
+        preply->abort();
         preply->deleteLater();
-    }
-    if (m_preply == preply) {
-        m_preply.clear();
     }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
 class QNetworkAccessManager;
 class QNetworkReply;
@@ -48,7 +47,7 @@ private:
     Q_DISABLE_COPY(DownloadManager)
 
     QNetworkAccessManager *m_pnam = nullptr;
-    QPointer<QNetworkReply> m_preply;
+    QNetworkReply *m_preply = nullptr; // the access manager's child; null when idle
     qint64 m_nSizeLimit = 0;
 };
 

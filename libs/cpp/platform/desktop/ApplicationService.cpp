@@ -109,8 +109,8 @@ private:
 class ApplicationService::Claim
 {
 public:
-    explicit Claim(QDBusPendingCall pending)
-        : m_pending(std::move(pending))
+    explicit Claim(const QDBusPendingCall &pending)
+        : m_pending(pending)
     {
     }
 

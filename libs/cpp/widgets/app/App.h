@@ -290,7 +290,7 @@ public:
     static void setUpdateTimeLimit(int nMsecs);
 
     /// Arms slotCheckUpdateOnStart for 2000 ms from now.
-    void checkUpdateOnStartLater();
+    static void checkUpdateOnStartLater();
 
     // Scripted use of widgets
 

@@ -84,6 +84,7 @@ void App::slotTellFriend()
         + encoded(shareMessage() + u" - "_qs + strPage));
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): one of the slots
 void App::slotRateApp()
 {
     const QString strServer = MakerHosts::applicationServer();
@@ -126,8 +127,9 @@ void App::slotHelp()
 void App::showHelpOnStart()
 {
     constexpr int delayMs = 500;
-    if (HelpDialog::isShowOnStartAvailable()) {
-        QTimer::singleShot(delayMs, theApp(), &App::slotHelp);
+    App *papp = theApp();
+    if (papp != nullptr && HelpDialog::isShowOnStartAvailable()) {
+        QTimer::singleShot(delayMs, papp, &App::slotHelp);
     }
 }
 

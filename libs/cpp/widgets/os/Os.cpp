@@ -95,6 +95,7 @@ QString Os::nativeLibraryName(const QString &strName)
     return u"lib"_qs + strName + u".dylib"_qs;
 }
 
+// NOLINTBEGIN(performance-unnecessary-value-param): the interface's own type of the picture
 void Os::postToTwitter(const QString &strText, QPixmap, const QUrl &url)
 {
     share(MakerHosts::twitterShare() + encoded(strText + u' ') + encoded(url));
@@ -115,6 +116,7 @@ void Os::postToEmail(const QString &strText, QPixmap, const QUrl &url)
     share(u"mailto:?subject="_qs + encoded(App::applicationName()) + u"&body="_qs
         + encoded(strText + u'\n') + encoded(url));
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 bool Os::openFolderAndSelectFile(const QString &strPath)
 {

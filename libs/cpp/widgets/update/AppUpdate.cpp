@@ -70,7 +70,7 @@ QString App::getUpdateRequest()
         lstServers = MakerHosts::updateServers();
     }
     for (const QString &strServer : std::as_const(lstServers)) {
-        const QString strText = getUpdateRequest(strServer);
+        QString strText = getUpdateRequest(strServer);
         if (!strText.isEmpty()) {
             return strText;
         }
@@ -137,7 +137,9 @@ void App::setUpdateTimeLimit(int nMsecs)
 void App::checkUpdateOnStartLater()
 {
     constexpr int delayMs = 2000;
-    QTimer::singleShot(delayMs, this, &App::slotCheckUpdateOnStart);
+    if (App *papp = theApp()) {
+        QTimer::singleShot(delayMs, papp, &App::slotCheckUpdateOnStart);
+    }
 }
 
 void App::slotCheckUpdate()
