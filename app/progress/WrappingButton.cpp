@@ -4,6 +4,13 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+namespace {
+
+// How the text is laid out and drawn.
+constexpr int Lines = static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap);
+
+}
+
 WrappingButton::WrappingButton(const QString &text, QWidget *parent)
     : QPushButton(text, parent)
 {
@@ -35,8 +42,7 @@ bool WrappingButton::hasHeightForWidth() const
 int WrappingButton::heightForWidth(int width) const
 {
     const int textWidth = std::max(1, width - border().width());
-    const QRect lines = fontMetrics().boundingRect(
-        QRect(0, 0, textWidth, 10000), Qt::TextWordWrap | Qt::AlignCenter, text());
+    const QRect lines = fontMetrics().boundingRect(QRect(0, 0, textWidth, 10000), Lines, text());
     return std::max(sizeHint().height(), lines.height() + border().height());
 }
 
@@ -50,5 +56,5 @@ void WrappingButton::paintEvent(QPaintEvent * /*event*/)
     painter.drawControl(QStyle::CE_PushButton, option);
     const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     painter.setPen(palette().color(QPalette::ButtonText));
-    painter.drawText(contents, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, label);
+    painter.drawText(contents, Lines | static_cast<int>(Qt::TextShowMnemonic), label);
 }

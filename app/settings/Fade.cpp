@@ -97,3 +97,8 @@ void Fade::paintCurve(int x, const QPoint &silent, const QPoint &full)
     painter.drawLine(silent, top);
     painter.drawLine(top, full);
 }
+
+void Fade::paintFrame(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+}

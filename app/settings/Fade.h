@@ -34,6 +34,8 @@ protected:
     int valuePercent() const;
     /// Draws the marker at x (px) and the curve through the three points, over what the base drew.
     void paintCurve(int x, const QPoint &silent, const QPoint &full);
+    /// Draws the frame alone, over all else.
+    void paintFrame(QPaintEvent *event);
 
     float m_fValue = 0;
     QPair<int, int> m_range {0, 100};

@@ -13,7 +13,7 @@ void FadeIn::paintEvent(QPaintEvent *event)
     Fade::paintEvent(event);
     const int x = static_cast<int>(width() * valuePercent() / 100.0);
     paintCurve(x, QPoint(0, height()), QPoint(width(), 10));
-    QFrame::paintEvent(event);
+    paintFrame(event);
 }
 
 void FadeIn::mousePressEvent(QMouseEvent *event)
@@ -29,5 +29,6 @@ void FadeIn::mouseMoveEvent(QMouseEvent *event)
 void FadeIn::setValueAt(const QMouseEvent *event)
 {
     const int x = event->localPos().toPoint().x();
-    setValue(static_cast<float>(x * rangeWidth() / std::max(1, width())));
+    const int whole = x * rangeWidth() / std::max(1, width());
+    setValue(static_cast<float>(whole));
 }

@@ -13,7 +13,7 @@ void FadeOut::paintEvent(QPaintEvent *event)
     Fade::paintEvent(event);
     const int x = static_cast<int>(width() - width() * valuePercent() / 100.0);
     paintCurve(x, QPoint(width(), height()), QPoint(0, 10));
-    QFrame::paintEvent(event);
+    paintFrame(event);
 }
 
 void FadeOut::mousePressEvent(QMouseEvent *event)
@@ -30,5 +30,6 @@ void FadeOut::setValueAt(const QMouseEvent *event)
 {
     const int x = event->localPos().toPoint().x();
     const int length = rangeWidth();
-    setValue(static_cast<float>(length - x * length / std::max(1, width())));
+    const int whole = length - x * length / std::max(1, width());
+    setValue(static_cast<float>(whole));
 }

@@ -65,7 +65,7 @@ std::vector<double> bell()
     for (const double value : samples) {
         peak = std::max(peak, std::abs(value));
     }
-    const std::size_t fade = SampleRate / 4 * Channels;
+    constexpr std::size_t fade = std::size_t {SampleRate} / 4 * Channels;
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const std::size_t left = samples.size() - i;
         samples[i] *= Peak / peak * (left < fade ? static_cast<double>(left) / fade : 1.0);
