@@ -129,6 +129,9 @@ void PlayerEngine::fill(float *samples, int frames)
     const float wanted[2]
         = {m_volume * std::min(1.0F, 1.0F - m_pan), m_volume * std::min(1.0F, 1.0F + m_pan)};
     const int available = m_playing ? std::min(frames, static_cast<int>(m_ringSize / 2)) : 0;
+    if (m_framesPlayed == 0) {
+        std::copy(wanted, wanted + 2, m_gains);
+    }
     // A change of volume is spread over the block: a step would click.
     const auto count = static_cast<float>(std::max(available, 1));
     const float steps[2] = {(wanted[0] - m_gains[0]) / count, (wanted[1] - m_gains[1]) / count};
