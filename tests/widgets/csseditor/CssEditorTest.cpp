@@ -3,7 +3,9 @@
 #include "CssSyntaxHighlighter.h"
 #include "Literals.h"
 #include "MediaMaker.h"
+#include "PromoMainPage.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialog>
@@ -11,8 +13,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -113,6 +117,23 @@ TEST(CssEditor, hasItsActionsInOrder)
     EXPECT_EQ(editor.findChild<QToolBar *>()->windowTitle(), u"Operations"_qs);
     EXPECT_EQ(editor.findChild<QToolBar *>()->actions().size(), 5);
     EXPECT_EQ(editor.findChild<QStatusBar *>()->currentMessage(), u"Ready"_qs);
+}
+
+TEST(CssEditor, opensByAKeyOfTheMainPage)
+{
+    PromoMainPage page;
+    page.show();
+    QApplication::setActiveWindow(&page);
+    QTest::keyClick(&page, Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+    const auto lst = QApplication::topLevelWidgets();
+    const auto it = std::find_if(lst.cbegin(), lst.cend(),
+        [](QWidget *pwgt) { return qobject_cast<CssEditor *>(pwgt) != nullptr; });
+    ASSERT_NE(it, lst.cend());
+    EXPECT_TRUE((*it)->isVisible());
+    const QPointer<QWidget> pwgt(*it);
+    pwgt->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(pwgt.isNull());
 }
 
 TEST(CssEditor, appliesAndResetsTheSheet)

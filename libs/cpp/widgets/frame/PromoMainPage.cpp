@@ -1,7 +1,11 @@
 #include "PromoMainPage.h"
 
+#include "App.h"
+#include "Literals.h"
 #include "PromoAdsBar.h"
 #include "PromoMenuBar.h"
+
+#include <QShortcut>
 
 namespace QMWidgets {
 
@@ -10,6 +14,11 @@ PromoMainPage::PromoMainPage(QWidget *parent, bool bQuitSignal)
     , m_pmenuBar(new PromoMenuBar(this, bQuitSignal))
 {
     connect(m_pmenuBar, &PromoMenuBar::quitApp, this, &PromoMainPage::quitApp);
+    if (App *papp = App::theApp()) {
+        // For whoever works on the application's look; no menu shows it.
+        auto *pshortcut = new QShortcut(QKeySequence(u"Ctrl+Shift+E"_qs), this);
+        connect(pshortcut, &QShortcut::activated, papp, &App::slotShowCssEditor);
+    }
 }
 
 PromoMenuBar *PromoMainPage::promoMenuBar() const

@@ -26,8 +26,8 @@ RateAppStoreDialog::RateAppStoreDialog(QWidget *parent)
         this);
     plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
-    QPushButton *pcmdRate = createButton(tr("&Rate It Now"), &RateAppStoreDialog::slotRate);
-    pcmdRate->setObjectName(u"LikeButton"_qs);
+    QPushButton *pcmdRate
+        = createPictureButton(u"LikeButton"_qs, tr("&Rate It Now"), &RateAppStoreDialog::slotRate);
     pcmdRate->setDefault(true);
 
     auto *playoutText = new QVBoxLayout;

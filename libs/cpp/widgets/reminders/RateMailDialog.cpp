@@ -20,10 +20,10 @@ RateMailDialog::RateMailDialog(QWidget *parent)
             this);
     plblText->setObjectName(u"SimpleLabel"_qs);
     plblText->setAlignment(Qt::AlignCenter);
-    QPushButton *pcmdRate = createButton(tr("&Rate"), &RateMailDialog::slotRate);
-    pcmdRate->setObjectName(u"LikeButton"_qs);
-    QPushButton *pcmdMail = createButton(tr("&Write email"), &RateMailDialog::slotMail);
-    pcmdMail->setObjectName(u"DislikeButton"_qs);
+    QPushButton *pcmdRate
+        = createPictureButton(u"LikeButton"_qs, tr("&Rate"), &RateMailDialog::slotRate);
+    QPushButton *pcmdMail
+        = createPictureButton(u"DislikeButton"_qs, tr("&Write email"), &RateMailDialog::slotMail);
 
     auto *playoutTop = new QHBoxLayout;
     playoutTop->addWidget(createLogo());

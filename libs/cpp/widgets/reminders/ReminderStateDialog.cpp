@@ -62,6 +62,16 @@ QPushButton *ReminderStateDialog::createButton(const QString &strText, Slot slot
     return pcmd;
 }
 
+QPushButton *ReminderStateDialog::createPictureButton(
+    const QString &strName, const QString &strText, Slot slot)
+{
+    QPushButton *pcmd = createButton(strText, slot);
+    pcmd->setObjectName(strName);
+    // The style sheet's background picture doesn't change sides, but the room for it would.
+    pcmd->setLayoutDirection(Qt::LeftToRight);
+    return pcmd;
+}
+
 void ReminderStateDialog::addLaterAndNever(QBoxLayout *playout)
 {
     playout->addWidget(createButton(tr("&Later"), &ReminderStateDialog::slotMaybeLater));

@@ -45,6 +45,9 @@ protected:
     /// A button of the dialog's own look that gives an answer.
     QPushButton *createButton(const QString &strText, Slot slot);
 
+    /// The same with the look of that object name, a picture at its left side.
+    QPushButton *createPictureButton(const QString &strName, const QString &strText, Slot slot);
+
     /// The buttons "later" and "never", in this order, at the end of a row.
     void addLaterAndNever(QBoxLayout *playout);
 
