@@ -40,7 +40,7 @@ public:
     }
     Handle &operator=(const Handle &other)
     {
-        if (m_pControl != other.m_pControl) {
+        if (this != &other) {
             Handle copy(other);
             std::swap(m_pControl, copy.m_pControl);
         }

@@ -19,7 +19,7 @@ constexpr int numberSize = 16;
 constexpr int headerSize = 2 * (idSize + numberSize);
 constexpr int indexHeaderSize = idSize + numberSize;
 constexpr qint64 mostPixels = 100'000'000;
-constexpr qint64 longestIndex = 64 * 1024 * 1024;
+constexpr qint64 longestIndex = 64LL * 1024 * 1024;
 
 QByteArray number(qint64 value)
 {

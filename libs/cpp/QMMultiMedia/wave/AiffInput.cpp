@@ -60,8 +60,7 @@ bool AiffInput::parse()
     if (m_fileInfo.dataOffset() == 0 || !m_bCommon) {
         return false;
     }
-    m_fileInfo.setNumSamples(
-        m_fileInfo.dataSize() / static_cast<quint64>(m_settings.bytesPerSample()));
+    countSamples();
     return rewind() == 0;
 }
 

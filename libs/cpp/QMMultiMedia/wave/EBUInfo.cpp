@@ -271,7 +271,7 @@ void EBUInfo::initFromHeader(std::FILE *file)
     const bool whole = std::fread(body.data(), 1, body.size(), file) == body.size();
     const char *at = body.data();
     const auto text = [&at](int width) {
-        const QString value = MTools::QByteArrayExtensions::arrToString(at, width);
+        QString value = MTools::QByteArrayExtensions::arrToString(at, width);
         at += width;
         return value;
     };

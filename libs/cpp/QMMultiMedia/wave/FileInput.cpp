@@ -164,9 +164,15 @@ bool FileInput::hasUsableFormat() const
     return m_settings.channels() > 0 && m_settings.bytesPerSample() > 0;
 }
 
+void FileInput::countSamples()
+{
+    const int bytes = m_settings.bytesPerSample();
+    m_fileInfo.setNumSamples(bytes > 0 ? m_fileInfo.dataSize() / static_cast<quint64>(bytes) : 0);
+}
+
 bool FileInput::readText(std::int64_t size, QString *text)
 {
-    constexpr std::int64_t longest = 1024 * 1024;
+    constexpr std::int64_t longest = 1024LL * 1024;
     if (size > bytesBehind(streamPosition())) {
         return false;
     }

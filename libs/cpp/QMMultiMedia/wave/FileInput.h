@@ -158,6 +158,8 @@ protected:
     std::int64_t bytesBehind(std::int64_t offset) const;
     /// Whether the samples can be laid out: at least one channel and whole bytes.
     bool hasUsableFormat() const;
+    /// Sets the number of samples from the size of the data.
+    void countSamples();
     /// Reads text of a file; at most a megabyte of it counts. False if the file ends before.
     bool readText(std::int64_t size, QString *text);
 

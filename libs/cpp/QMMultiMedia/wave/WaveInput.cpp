@@ -77,8 +77,7 @@ bool WaveInput::parse()
     if (m_fileInfo.dataOffset() == 0 || m_nFormatTag == 0) {
         return false;
     }
-    m_fileInfo.setNumSamples(
-        m_fileInfo.dataSize() / static_cast<quint64>(m_settings.bytesPerSample()));
+    countSamples();
     m_settings.setFmt(fmt());
     return rewind() == 0;
 }

@@ -13,7 +13,7 @@ namespace QMMultiMedia {
 
 namespace {
 
-constexpr std::size_t streamBufferSize = 512 * 1024;
+constexpr std::size_t streamBufferSize = 512UL * 1024;
 
 short formatOfWidth(short bitsPerSample)
 {
