@@ -60,10 +60,10 @@ TEST(EBUInfo, FilledForANewFile)
         EXPECT_EQ(info.codingHistory(), QLatin1String(c.history));
         EXPECT_EQ(info.size(), 602 + static_cast<int>(qstrlen(c.history)));
     }
-    QMMultiMedia::ProductionParameters::instance().setProjectName(u"my big project"_qs);
+    QMMultiMedia::ProductionParameters::instance()->setProjectName(u"my big project"_qs);
     EBUInfo info(0, 25.0f);
     info.fill(u"/a.wav"_qs, 48000, 24, 2);
-    QMMultiMedia::ProductionParameters::instance().setProjectName(QString());
+    QMMultiMedia::ProductionParameters::instance()->setProjectName(QString());
     const QStringList lines
         = info.description().left(info.description().indexOf(QChar(0))).split(u"\r\n"_qs);
     ASSERT_EQ(lines.size(), 8);

@@ -6,22 +6,22 @@ namespace QMMultiMedia {
 
 float Production::fps()
 {
-    return ProductionParameters::instance().fps();
+    return ProductionParameters::instance()->fps();
 }
 
 int Production::sampleRate()
 {
-    return ProductionParameters::instance().sampleRate();
+    return ProductionParameters::instance()->sampleRate();
 }
 
 int Production::bitsPerSample()
 {
-    return ProductionParameters::instance().bitsPerSample();
+    return ProductionParameters::instance()->bitsPerSample();
 }
 
 QString Production::projectName()
 {
-    return ProductionParameters::instance().projectName();
+    return ProductionParameters::instance()->projectName();
 }
 
 }

@@ -4,11 +4,11 @@
 
 namespace QMMultiMedia {
 
-ProductionParameters &ProductionParameters::instance()
+ProductionParameters *ProductionParameters::instance()
 {
     // Outlives every static object that may still ask for it at exit.
     static auto *const parameters = new ProductionParameters;
-    return *parameters;
+    return parameters;
 }
 
 void ProductionParameters::dump() const

@@ -9,7 +9,7 @@ class ProductionParameters
 {
 public:
     /// Made on first use, never destroyed.
-    static ProductionParameters &instance();
+    static ProductionParameters *instance();
 
     void setFPS(float fps) { m_fps = fps; }
     void setSampleRate(int sampleRate) { m_nSampleRate = sampleRate; }

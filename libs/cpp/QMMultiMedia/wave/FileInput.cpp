@@ -418,11 +418,6 @@ bool FileInput::loadEbuInfo(const char *path)
     return true;
 }
 
-const char *FileInput::name() const
-{
-    return "FileInput";
-}
-
 void FileInput::dump() const
 {
     AudioIO::dump();

@@ -143,7 +143,6 @@ public:
     /// Samples per peak at which the whole file fits into so many pixels.
     float calculateZoom(int width) const;
 
-    const char *name() const override;
     void dump() const override;
 
 protected:

@@ -67,7 +67,7 @@ Range rangeOf(const float *samples, int frames, int stride, Range start)
 }
 
 FileOutput::FileOutput(const char *path, const Settings &settings, const QString &comment,
-    const MTools::Handle<EBUInfo> &ebuInfo)
+    const MTools::Handle<EBUInfo> &ebuInfo, bool /*ebu*/)
     : m_ebuInfo(ebuInfo)
     , m_ebuEnvelope(std::make_unique<EBUEnvelope>().release())
     , m_currentPeaks(static_cast<std::size_t>(std::max<int>(settings.channels(), 0)))

@@ -24,9 +24,10 @@ struct ChannelPeak
 class FileOutput : public BaseOutput
 {
 public:
-    /// path and comment describe the file; ebuInfo may be null.
+    /// path and comment describe the file; ebuInfo may be null. What ebu means is the format's
+    /// matter.
     FileOutput(const char *path, const Settings &settings, const QString &comment,
-        const MTools::Handle<EBUInfo> &ebuInfo);
+        const MTools::Handle<EBUInfo> &ebuInfo, bool ebu);
 
     /// The broadcast metadata; may be null.
     virtual MTools::Handle<EBUInfo> ebuInfo() const;

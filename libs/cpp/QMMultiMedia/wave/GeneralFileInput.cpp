@@ -63,7 +63,7 @@ void GeneralFileInput::dump() const
 
 const char *GeneralFileInput::name() const
 {
-    return m_reader.isNull() ? "GeneralFileInput" : m_reader->name();
+    return m_reader.isNull() ? FileInput::name() : m_reader->name();
 }
 
 const FileInfo &GeneralFileInput::fileInfo() const

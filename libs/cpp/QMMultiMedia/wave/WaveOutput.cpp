@@ -47,7 +47,7 @@ bool writeShort(int value, std::FILE *file)
 
 WaveOutput::WaveOutput(const char *path, const Settings &settings, const QString &comment,
     const MTools::Handle<EBUInfo> &ebuInfo, bool ebu)
-    : FileOutput(path, settings, comment, ebuInfo)
+    : FileOutput(path, settings, comment, ebuInfo, ebu)
 {
     if (ebu) {
         if (m_ebuInfo.isNull()) {
