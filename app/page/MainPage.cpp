@@ -40,9 +40,9 @@ using QMWidgets::DropWidget;
 namespace {
 
 // Keys of the settings store, with their defaults.
-constexpr QLatin1String keyWidth("Width");
-constexpr QLatin1String keyHeight("Height");
-constexpr QLatin1String keyDestination("DestinationPath");
+const QLatin1String keyWidth("Width");
+const QLatin1String keyHeight("Height");
+const QLatin1String keyDestination("DestinationPath");
 constexpr int defaultWidth = 370;
 constexpr int defaultHeight = 600;
 
@@ -268,7 +268,7 @@ void MainPage::showEvent(QShowEvent *event)
 {
     PromoMainPage::showEvent(event);
     // By then the window manager has told how large its frame is.
-    QTimer::singleShot(frameDelayMs, this, &MainPage::fitToScreen);
+    QTimer::singleShot(frameDelayMs, this, [this] { fitToScreen(); });
 }
 
 /// On a small screen the lower edge with its buttons would be out of reach.
@@ -321,7 +321,7 @@ void MainPage::slotDestinationActivated(int row)
     showDestination();
 }
 
-void MainPage::slotGotoFilesLocation()
+void MainPage::slotGotoFilesLocation() const
 {
     Os::openFolderAndSelectFile(destinationPath());
 }

@@ -68,15 +68,15 @@ public slots:
     /// Replaces the job by what is found in the files and folders; returns when the scan is over.
     ///
     /// What comes in during a scan or a run is taken when that is over.
-    void slotFilesDropped(QList<QUrl> lst); // NOLINT(performance-unnecessary-value-param)
+    void slotFilesDropped(const QList<QUrl> &lst);
     /// What follows a run: the folder shown, the bell, the destination released.
-    void slotDone(QString runFolder); // NOLINT(performance-unnecessary-value-param)
-    void slotError(QString strError); // NOLINT(performance-unnecessary-value-param)
+    void slotDone(const QString &runFolder);
+    void slotError(const QString &strError);
 
 private slots:
     void slotDoIt();
     void slotShowSettings();
-    void slotFileOpenRequest(QString path); // NOLINT(performance-unnecessary-value-param)
+    void slotFileOpenRequest(const QString &path);
     void slotOpenFiles();
     void slotUpdateInfo();
     void slotRemove();
@@ -89,7 +89,7 @@ private slots:
     void slotButtonClicked(QModelIndex index, QPoint pt);
     void slotUpdatePlayInfo();
     void slotPlayPositionChanged(int nPos);
-    void slotGotoFilesLocation();
+    void slotGotoFilesLocation() const;
     void slotDestinationActivated(int row);
 
 protected:
@@ -121,7 +121,7 @@ private:
     bool openDestination();
     void fillWorker(BatchWorker *worker);
     BatchRun *createRun();
-    void connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop);
+    void connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop) const;
     BatchRun *runBefore(BatchRun *run) const;
     void startInTurn(BatchRun *run);
     void tellUnreadableNames();

@@ -37,7 +37,7 @@ bool MainPage::isBusy() const
     return m_bScanning || m_bConverting;
 }
 
-void MainPage::slotFilesDropped(QList<QUrl> lst)
+void MainPage::slotFilesDropped(const QList<QUrl> &lst)
 {
     if (isBusy()) {
         m_urlsToOpen += lst;
@@ -90,7 +90,7 @@ void MainPage::tellUnreadableNames()
     }
 }
 
-void MainPage::slotFileOpenRequest(QString path)
+void MainPage::slotFileOpenRequest(const QString &path)
 {
     m_urlsToOpen << QUrl::fromLocalFile(path);
     m_ptimerOpenFiles->stop();
@@ -162,7 +162,7 @@ void MainPage::fillWorker(BatchWorker *worker)
     worker->setDroppedUrls(m_droppedUrls);
 }
 
-void MainPage::connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop)
+void MainPage::connectRun(BatchRun *run, BatchDialog *dialog, QEventLoop *loop) const
 {
     connect(dialog, &QDialog::finished, loop, &QEventLoop::quit);
     connect(dialog, &BatchDialog::paused, this, &MainPage::slotPauseConvertion);
@@ -232,9 +232,9 @@ void MainPage::slotStopConvertion()
     }
 }
 
-void MainPage::slotError(QString /*strError*/) { }
+void MainPage::slotError(const QString & /*strError*/) { }
 
-void MainPage::slotDone(QString runFolder)
+void MainPage::slotDone(const QString &runFolder)
 {
     if (AppSettingsDialog::openFolderAfter()) {
         Os::openFolderAndSelectFile(runFolder);
