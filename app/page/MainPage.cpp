@@ -200,7 +200,6 @@ void MainPage::createTimers()
     if (App *application = App::theApp()) {
         connect(application, &App::fileOpenRequest, this, &MainPage::slotFileOpenRequest);
     }
-    connect(Os::instance(), &Os::atUserLogout, this, &MainPage::stopAll);
 
     m_ptimerPlayInfo = new QTimer(this);
     m_ptimerPlayInfo->setInterval(1000);
