@@ -1,5 +1,6 @@
 #include "AVAsset.h"
 
+#include "AsfItems.h"
 #include "FileKind.h"
 #include "MediaProbe.h"
 #include "MetadataFormat.h"
@@ -24,6 +25,9 @@ QList<MetadataFormat> metadataOf(const QString &path)
     const FileKind kind = fileKind(file, QFileInfo(path).suffix());
     if (kind == FileKind::Mp4) {
         return mp4Metadata(file);
+    }
+    if (kind == FileKind::Asf) {
+        return asfMetadata(file);
     }
     const QList<MetadataFormat> formats = tagLibMetadata(path, kind);
     // An AIFF file may have texts of its own beside an ID3 chunk; they count without it.

@@ -48,6 +48,7 @@ std::optional<Atom> AtomReader::atomAt(qint64 position, qint64 end)
         atom.body = position + longHeader;
     } else if (size == 0) {
         size = static_cast<quint64>(end - position);
+        atom.isOpen = true;
     }
     if (size < static_cast<quint64>(atom.body - position)) {
         return {};

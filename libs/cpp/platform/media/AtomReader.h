@@ -12,6 +12,7 @@ struct Atom
     qint64 start = 0; ///< where its header begins
     qint64 body = 0; ///< where its content begins
     qint64 end = 0;
+    bool isOpen = false; ///< it states no size: it goes to the end of its parent
     bool isWhole = true; ///< false: it claims to go beyond its parent, and was cut there
 };
 

@@ -4,9 +4,17 @@
 
 #include <chrono>
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 namespace {
+
+/// One name for all ways to write a path.
+QString absoluteName(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
 
 void finishAll()
 {
@@ -43,7 +51,7 @@ void ExportQueue::add(const QString &output, std::function<void()> job)
         m_thread = std::thread([this] { run(); });
     }
     m_jobs.push_back(std::move(job));
-    m_outputs.append(output);
+    m_outputs.append(absoluteName(output));
     m_changed.notify_all();
 }
 
@@ -103,9 +111,10 @@ void waitForAll(const std::function<void(int, qint64)> &progress)
 void waitForOutput(const QString &path)
 {
     constexpr int stepMs = 1000;
+    const QString name = absoluteName(path);
     const ExportQueue &queue = ExportQueue::instance();
     while (!queue.waitUntil(
-        [&path](const QStringList &outputs) { return !outputs.contains(path); }, stepMs)) { }
+        [&name](const QStringList &outputs) { return !outputs.contains(name); }, stepMs)) { }
 }
 
 }

@@ -132,17 +132,19 @@ void Collector::add(const QString &name, const QStringList &texts)
     if (!match || match->field == Field::Artwork || texts.isEmpty()) {
         return;
     }
-    const auto [place, isNew] = m_texts.try_emplace(match->field, Texts {match->rank, texts});
-    if (isNew) {
+    const auto place = m_texts.try_emplace(match->field, Texts {match->rank, {}}).first;
+    QStringList &values = place->second.values;
+    if (match->rank > place->second.rank) {
         return;
     }
     if (match->rank < place->second.rank) {
-        place->second = {match->rank, texts};
-    } else if (match->rank == place->second.rank) {
-        for (const QString &text : texts) {
-            if (!place->second.values.contains(text)) {
-                place->second.values.append(text);
-            }
+        place->second.rank = match->rank;
+        values.clear();
+    }
+    constexpr int maximumValues = 256;
+    for (const QString &text : texts) {
+        if (values.size() < maximumValues && !values.contains(text)) {
+            values.append(text);
         }
     }
 }

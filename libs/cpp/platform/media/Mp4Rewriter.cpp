@@ -189,7 +189,7 @@ bool Mp4Rewriter::buildIndex(const QList<AVMetadataItem> &items)
     bool isGood = true;
     atoms.forEachChild(atoms.root(), [&](const Atom &atom) {
         reached = atom.end;
-        isGood = atom.isWhole;
+        isGood = atom.isWhole && !atom.isOpen; // an open one would take in what is put behind it
         if (atom.type == atomType("mvex")) {
             isGood = fail(u"it is a fragmented file");
         } else if (atom.type == atomType("udta")) {

@@ -10,9 +10,6 @@
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
 #include <taglib/apetag.h>
-#include <taglib/asffile.h>
-#include <taglib/asfpicture.h>
-#include <taglib/asftag.h>
 #include <taglib/flacfile.h>
 #include <taglib/id3v1tag.h>
 #include <taglib/id3v2framefactory.h>
@@ -142,54 +139,6 @@ void appendApe(Formats *formats, TagLib::APE::Tag *tag)
     append(formats, AVMetadataFormatApe, collector.items());
 }
 
-QString textOf(const TagLib::ASF::Attribute &attribute)
-{
-    switch (attribute.type()) {
-    case TagLib::ASF::Attribute::UnicodeType:
-        return toQString(attribute.toString());
-    case TagLib::ASF::Attribute::BoolType:
-    case TagLib::ASF::Attribute::DWordType:
-        return QString::number(attribute.toUInt());
-    case TagLib::ASF::Attribute::WordType:
-        return QString::number(attribute.toUShort());
-    case TagLib::ASF::Attribute::QWordType:
-        return QString::number(attribute.toULongLong());
-    default:
-        return {};
-    }
-}
-
-void appendAsf(Formats *formats, TagLib::ASF::Tag *tag)
-{
-    if (tag == nullptr) {
-        return;
-    }
-    FieldTable::Collector collector(FieldTable::Names::Asf);
-    const auto add = [&collector](const char *name, const TagLib::String &text) {
-        if (!text.isEmpty()) {
-            collector.add(QString::fromLatin1(name), {toQString(text)});
-        }
-    };
-    add("Title", tag->title());
-    add("Author", tag->artist());
-    add("Copyright", tag->copyright());
-    add("Description", tag->comment());
-    for (const auto &[name, attributes] : tag->attributeListMap()) {
-        QStringList texts;
-        for (const TagLib::ASF::Attribute &attribute : attributes) {
-            const TagLib::ASF::Picture picture = attribute.toPicture();
-            if (picture.isValid()) {
-                collector.addPicture(toQByteArray(picture.picture()),
-                    picture.type() == TagLib::ASF::Picture::FrontCover);
-            } else {
-                texts.append(textOf(attribute));
-            }
-        }
-        collector.add(toQString(name), texts);
-    }
-    append(formats, AVMetadataFormatAsf, collector.items());
-}
-
 void appendInfo(Formats *formats, const TagLib::RIFF::Info::Tag *tag)
 {
     if (tag == nullptr) {
@@ -267,14 +216,6 @@ Formats apeMetadata(TagLib::FileName name)
     return formats;
 }
 
-Formats asfMetadata(TagLib::FileName name)
-{
-    Formats formats;
-    TagLib::ASF::File file(name, false);
-    appendAsf(&formats, file.tag());
-    return formats;
-}
-
 Formats aiffMetadata(TagLib::FileName name)
 {
     Formats formats;
@@ -302,10 +243,9 @@ Formats metadataOf(const QString &path, TagLib::FileName name, FileKind kind)
         return oggMetadata<TagLib::Ogg::Speex::File>(name);
     case FileKind::Ape:
         return apeMetadata(name);
-    case FileKind::Asf:
-        return asfMetadata(name);
     case FileKind::Aiff:
         return aiffMetadata(name);
+    case FileKind::Asf:
     case FileKind::Mp4:
     case FileKind::Other:
         break;
