@@ -73,102 +73,102 @@ GLYPHS = {
             '<path class="a" d="M3.6 7l8.4 6.4L20.4 7"/>',
     "globe": '<circle class="l" cx="12" cy="12" r="9.2"/>'
              '<path class="a" d="M3.2 12h17.6M12 3c-5 5.4-5 12.6 0 18c5-5.4 5-12.6 0-18"/>',
-    "open": '<path class="l" d="M3 19.200V5.600a1.5 1.5 0 0 1 1.5-1.500h4.700l2.2 2.600h7.100a1.5 1.5 0 0 1 '
-            '1.5 1.500v1.6"/><path class="l" d="M3.2 19.600l3-9.600h15.400l-3 9.600z"/>'
-            '<path class="a" d="M12.4 17v-4.200M10.3 14.900h4.2"/>',
+    "open": '<path class="l" d="M3 19.2V5.6a1.5 1.5 0 0 1 1.5-1.5h4.7l2.2 2.6h7.1a1.5 1.5 0 0 1 '
+            '1.5 1.5v1.6"/><path class="l" d="M3.2 19.6l3-9.6h15.4l-3 9.6z"/>'
+            '<path class="a" d="M12.4 17v-4.2M10.3 14.9h4.2"/>',
     "cross": '<circle class="l" cx="12" cy="12" r="9.2"/>'
-             '<path class="a" d="M8.6 8.600l6.8 6.800M15.4 8.600l-6.8 6.8"/>',
-    "folder": '<path class="l" d="M3 18.200V5.800a1.5 1.5 0 0 1 1.5-1.500h4.700l2.2 2.700h8.100a1.5 1.5 0 0 1 '
-              '1.5 1.500v9.700a1.5 1.5 0 0 1-1.5 1.500h-15a1.5 1.5 0 0 1-1.5-1.500z"/>',
-    "folderopen": '<path class="l" d="M3 18.800V5.800a1.5 1.5 0 0 1 1.5-1.500h4.700l2.2 2.700h7.300a1.5 1.5 0 0 1 '
-                  '1.5 1.500v1.7"/><path class="l" d="M3.2 19.700l2.6-9.500h16l-2.6 9.500z"/>',
-    "goto": '<path class="a" d="M3.5 12h15.500M12.5 5.200l7 6.8-7 6.8"/>',
+             '<path class="a" d="M8.6 8.6l6.8 6.8M15.4 8.6l-6.8 6.8"/>',
+    "folder": '<path class="l" d="M3 18.2V5.8a1.5 1.5 0 0 1 1.5-1.5h4.7l2.2 2.7h8.1a1.5 1.5 0 0 1 '
+              '1.5 1.5v9.7a1.5 1.5 0 0 1-1.5 1.5h-15a1.5 1.5 0 0 1-1.5-1.5z"/>',
+    "folderopen": '<path class="l" d="M3 18.8V5.8a1.5 1.5 0 0 1 1.5-1.5h4.7l2.2 2.7h7.3a1.5 1.5 0 0 1 '
+                  '1.5 1.5v1.7"/><path class="l" d="M3.2 19.7l2.6-9.5h16l-2.6 9.5z"/>',
+    "goto": '<path class="a" d="M3.5 12h15.5M12.5 5.2l7 6.8-7 6.8"/>',
     "gear": f'<path class="l" d="{gear_path()}"/><circle class="a" cx="12" cy="12" r="3"/>',
-    "like": '<path class="l" d="M3 10.600h3.600v10H3z"/>'
-            '<path class="a" d="M6.8 11.200l4-7.800c1.8 0 2.7 1.2 2.5 2.800l-.5 3.600h6.200c1.5 0 2.4 1.2 2 2.6'
-            'l-1.8 6.600c-.3 1-1 1.6-2 1.600H6.8"/>',
-    "mute": '<path class="l" d="M4 9.500h3.500L12 5.500v13l-4.5-4H4z"/>',
-    "note": '<path class="l" d="M9.2 17.600V5.600l10.2-2.200v12"/><path class="l" d="M9.2 9.400l10.2-2.2"/>'
+    "like": '<path class="l" d="M3 10.6h3.6v10H3z"/>'
+            '<path class="a" d="M6.8 11.2l4-7.8c1.8 0 2.7 1.2 2.5 2.8l-.5 3.6h6.2c1.5 0 2.4 1.2 2 2.6'
+            'l-1.8 6.6c-.3 1-1 1.6-2 1.6H6.8"/>',
+    "mute": '<path class="l" d="M4 9.5h3.5L12 5.5v13l-4.5-4H4z"/>',
+    "note": '<path class="l" d="M9.2 17.6V5.6l10.2-2.2v12"/><path class="l" d="M9.2 9.4l10.2-2.2"/>'
             '<ellipse class="f" cx="6.4" cy="17.8" rx="3.7" ry="3"/><ellipse class="f" cx="16.6" cy="15.6" rx="3.7" ry="3"/>',
-    "noteplay": '<path class="l" d="M8.2 17.600V5.400l10-2.200v3.400M8.2 9l4.6-1"/>'
+    "noteplay": '<path class="l" d="M8.2 17.6V5.4l10-2.2v3.4M8.2 9l4.6-1"/>'
                 '<ellipse class="f" cx="5.4" cy="17.8" rx="3.7" ry="3"/>'
-                '<path class="a" d="M13.4 11.400v9.400l7.6-4.700z"/><path class="b" d="M13.4 11.400v9.400l7.6-4.700z"/>',
+                '<path class="a" d="M13.4 11.4v9.4l7.6-4.7z"/><path class="b" d="M13.4 11.4v9.4l7.6-4.7z"/>',
     # networks
-    "facebook": '<path class="l" d="M15.8 4.600h-1.600c-1.7 0-2.7 1-2.7 2.800v12.400M8.4 11.400h6.6"/>',
-    "twitter": '<path class="l" d="M9.2 4.400v11.200c0 2.4 1.3 4 3.7 4h1.900M6.6 9.200h8"/>',
-    "vkontakte": '<path class="l" d="M3.4 7.200l4 9.6 4-9.600M14 5.600v11.200M20.4 7.200l-6 5.2 6.2 4.4"/>',
-    "linkedin": '<path class="l" d="M6 10v8.600M10.6 10v8.600M10.6 14c0-2.6 1.4-4 3.7-4s3.7 1.4 3.7 4v4.6"/>'
+    "facebook": '<path class="l" d="M15.8 4.6h-1.6c-1.7 0-2.7 1-2.7 2.8v12.4M8.4 11.4h6.6"/>',
+    "twitter": '<path class="l" d="M9.2 4.4v11.2c0 2.4 1.3 4 3.7 4h1.9M6.6 9.2h8"/>',
+    "vkontakte": '<path class="l" d="M3.4 7.2l4 9.6 4-9.6M14 5.6v11.2M20.4 7.2l-6 5.2 6.2 4.4"/>',
+    "linkedin": '<path class="l" d="M6 10v8.6M10.6 10v8.6M10.6 14c0-2.6 1.4-4 3.7-4s3.7 1.4 3.7 4v4.6"/>'
                 '<circle class="f" cx="6" cy="6" r="1.5"/>',
     "youtube": '<rect class="l" x="2.6" y="5" width="18.8" height="14" rx="3.6"/>'
-               '<path class="f" d="M10 8.800l5.4 3.2-5.4 3.200z"/>',
+               '<path class="f" d="M10 8.8l5.4 3.2-5.4 3.2z"/>',
     # catalogue
     "recorder": '<rect class="l" x="8.4" y="2.6" width="7.2" height="11.4" rx="3.6"/>'
-                '<path class="a" d="M5 11.400c0 4 3 6.6 7 6.600s7-2.6 7-6.600M12 18v3.400M8.6 21.400h6.8"/>',
+                '<path class="a" d="M5 11.4c0 4 3 6.6 7 6.6s7-2.6 7-6.6M12 18v3.4M8.6 21.4h6.8"/>',
     "timecode": '<rect class="l" x="2.8" y="9.6" width="18.4" height="11.6" rx="1.8"/>'
                 '<path class="l" d="M3 9.2L20 4.2"/>'
                 '<path class="a" d="M6.6 13.4v4M10 13.4v4M14 13.4v4M17.4 13.4v4"/>',
     "midi": '<circle class="l" cx="12" cy="12" r="9.2"/>' + "".join(
         f'<circle class="b" cx="{polar(5.6, a).split()[0]}" cy="{polar(5.6, a).split()[1]}" r="1.4"/>'
-        for a in (-180, -135, -90, -45, 0)) + '<path class="l" d="M10 20.600v-2.600h4v2.6"/>',
+        for a in (-180, -135, -90, -45, 0)) + '<path class="l" d="M10 20.6v-2.6h4v2.6"/>',
     "metronome": '<path class="l" d="M9 3h6l4 18H5zM6 16.6h12"/><path class="a" d="M12 16.4l7.6-11.8"/>'
                  '<circle class="f" cx="16" cy="10.2" r="2.2"/>',
-    "guitar": lean(f'<path class="l" d="{FIGURE_EIGHT}M12 9.600V1.800M10.3 0h3.4"/>'
-                   '<circle class="a" cx="12" cy="15.4" r="1.6"/><path class="a" d="M10.4 19.800h3.2"/>'),
-    "bass": lean('<path class="l" d="M12.4 11.400c-.8-2.6-4.8-3-4.8-.4 0 1.8 1.1 2.6.8 4.2-.3 1.5-1.7 2-1.7 '
-                 '4 0 2.3 2.2 3.4 5.3 3.400s5.3-1.1 5.3-3.400c0-2-1.2-2.5-1.6-4-.3-1.2.9-1.8.9-3.2 0-2-2.8-2.4'
-                 '-4.2-.6zM12 11V-1M12-1h2.600M12 2h2.6"/>'
-                 '<path class="a" d="M10 15.400h4M10 18.800h4"/>'),
-    "ukulele": lean('<path class="l" d="M12 8.600c-2 0-3.2 1-3.2 2.6 0 1.3.5 1.5.1 2.4-.4.8-1.5 1.4-1.5 3.1 0 '
-                    '2.1 1.9 3.2 4.6 3.200s4.6-1.1 4.6-3.200c0-1.7-1.1-2.3-1.5-3.1-.4-.9.1-1.1.1-2.4 0-1.6-1.2-2.6'
-                    '-3.2-2.600zM12 8.600V4"/><path class="a" d="M10.2 1h3.600v3h-3.600zM10.6 16.800h2.8"/>'),
-    "mandolin": lean('<path class="l" d="M12 8.400c-1 2.4-5.8 4-5.8 8.6 0 3.4 2.5 5.4 5.8 5.400s5.8-2 5.8-5.400c0-4.6'
-                     '-4.8-6.2-5.8-8.600zM12 8.400V1.600M10.2 0h3.6"/>'
-                     '<path class="a" d="M10.2 15.200a1.8 1.4 0 1 0 3.6 0a1.8 1.4 0 1 0-3.6 0M10 19.200h4"/>'),
-    "banjo": lean('<circle class="l" cx="12" cy="16.6" r="5.8"/><path class="l" d="M12 10.800V0M10.2 0h3.6"/>'
+    "guitar": lean(f'<path class="l" d="{FIGURE_EIGHT}M12 9.6V1.8M10.3 0h3.4"/>'
+                   '<circle class="a" cx="12" cy="15.4" r="1.6"/><path class="a" d="M10.4 19.8h3.2"/>'),
+    "bass": lean('<path class="l" d="M12.4 11.4c-.8-2.6-4.8-3-4.8-.4 0 1.8 1.1 2.6.8 4.2-.3 1.5-1.7 2-1.7 '
+                 '4 0 2.3 2.2 3.4 5.3 3.4s5.3-1.1 5.3-3.4c0-2-1.2-2.5-1.6-4-.3-1.2.9-1.8.9-3.2 0-2-2.8-2.4'
+                 '-4.2-.6zM12 11V-1M12-1h2.6M12 2h2.6"/>'
+                 '<path class="a" d="M10 15.4h4M10 18.8h4"/>'),
+    "ukulele": lean('<path class="l" d="M12 8.6c-2 0-3.2 1-3.2 2.6 0 1.3.5 1.5.1 2.4-.4.8-1.5 1.4-1.5 3.1 0 '
+                    '2.1 1.9 3.2 4.6 3.2s4.6-1.1 4.6-3.2c0-1.7-1.1-2.3-1.5-3.1-.4-.9.1-1.1.1-2.4 0-1.6-1.2-2.6'
+                    '-3.2-2.6zM12 8.6V4"/><path class="a" d="M10.2 1h3.6v3h-3.6zM10.6 16.8h2.8"/>'),
+    "mandolin": lean('<path class="l" d="M12 8.4c-1 2.4-5.8 4-5.8 8.6 0 3.4 2.5 5.4 5.8 5.4s5.8-2 5.8-5.4c0-4.6'
+                     '-4.8-6.2-5.8-8.6zM12 8.4V1.6M10.2 0h3.6"/>'
+                     '<path class="a" d="M10.2 15.2a1.8 1.4 0 1 0 3.6 0a1.8 1.4 0 1 0-3.6 0M10 19.2h4"/>'),
+    "banjo": lean('<circle class="l" cx="12" cy="16.6" r="5.8"/><path class="l" d="M12 10.8V0M10.2 0h3.6"/>'
                   '<circle class="a" cx="12" cy="16.6" r="2.2"/><path class="a" d="M12 5h2.4"/>'),
-    "balalaika": lean('<path class="l" d="M12 9.200l6.8 12.400H5.200zM12 9.200V1.600M10.2 0h3.6"/>'
+    "balalaika": lean('<path class="l" d="M12 9.2l6.8 12.4H5.2zM12 9.2V1.6M10.2 0h3.6"/>'
                       '<circle class="b" cx="12" cy="17" r="1.9"/>'),
-    "violin": lean('<path class="l" d="M12 8.800c-2.6 0-3.8 1.2-3.8 2.8 0 1.2 1 1.5 1 2.700s-1.9 1.5-1.9 4 1.9 4 '
-                   '4.7 4 4.7-1.5 4.7-4-1.9-2.8-1.9-4 1-1.5 1-2.700c0-1.6-1.2-2.8-3.8-2.800zM12 8.800V1.4"/>'
-                   '<path class="l" d="M12 1.400c0-1.6 2.4-1.6 2.2.2"/>'
-                   '<path class="a" d="M10.8 14v4.400M13.2 14v4.4"/>'),
+    "violin": lean('<path class="l" d="M12 8.8c-2.6 0-3.8 1.2-3.8 2.8 0 1.2 1 1.5 1 2.7s-1.9 1.5-1.9 4 1.9 4 '
+                   '4.7 4 4.7-1.5 4.7-4-1.9-2.8-1.9-4 1-1.5 1-2.7c0-1.6-1.2-2.8-3.8-2.8zM12 8.8V1.4"/>'
+                   '<path class="l" d="M12 1.4c0-1.6 2.4-1.6 2.2.2"/>'
+                   '<path class="a" d="M10.8 14v4.4M13.2 14v4.4"/>'),
     "piano": '<rect class="l" x="2.8" y="4.6" width="18.4" height="14.8" rx="1.8"/>'
-             '<path class="l" d="M8.9 14.600v4.600M15.1 14.600v4.6"/>'
-             '<path class="b" d="M7 5h3.800v8.600a.8.8 0 0 1-.8.800H7.800a.8.8 0 0 1-.8-.800zM13.2 5H17v8.600a.8.8 0 0 1-.8'
-             '.800H14a.8.8 0 0 1-.8-.800z"/>',
+             '<path class="l" d="M8.9 14.6v4.6M15.1 14.6v4.6"/>'
+             '<path class="b" d="M7 5h3.8v8.6a.8.8 0 0 1-.8.8H7.8a.8.8 0 0 1-.8-.8zM13.2 5H17v8.6a.8.8 0 0 1-.8'
+             '.8H14a.8.8 0 0 1-.8-.8z"/>',
     "viewer": PICTURE + '<circle class="b" cx="8.2" cy="9.2" r="1.7"/>'
               '<path class="a" d="M3.8 18l5.4-5.4 3.6 3.6 3-3 4.6 4.4"/>',
-    "notes": '<path class="l" d="M20.4 11V6a1.8 1.8 0 0 0-1.8-1.800H4.800A1.8 1.8 0 0 0 3 6v11.200A1.8 1.8 0 0 0 4.8 '
-             '19h4.6"/><path class="l" d="M6.6 8.800h10M6.6 12.400h5"/>'
-             '<path class="a" d="M12.6 20.800l.6-3.2 6.6-6.6 2.4 2.4-6.6 6.600z"/>',
-    "cropper": '<path class="l" d="M6.6 2.600v14.800h14.8"/><path class="a" d="M2.6 6.600h14.800v14.8"/>',
+    "notes": '<path class="l" d="M20.4 11V6a1.8 1.8 0 0 0-1.8-1.8H4.8A1.8 1.8 0 0 0 3 6v11.2A1.8 1.8 0 0 0 4.8 '
+             '19h4.6"/><path class="l" d="M6.6 8.8h10M6.6 12.4h5"/>'
+             '<path class="a" d="M12.6 20.8l.6-3.2 6.6-6.6 2.4 2.4-6.6 6.6z"/>',
+    "cropper": '<path class="l" d="M6.6 2.6v14.8h14.8"/><path class="a" d="M2.6 6.6h14.8v14.8"/>',
     "measurer": '<rect class="l" x="1.6" y="7.8" width="20.8" height="8.4" rx="1.2" transform="rotate(-45 12 12)"/>'
-                '<path class="a" transform="rotate(-45 12 12)" d="M5.6 8.200v3M9.9 8.200v4.200M14.2 8.200v3M18.5 8.200v4.2"/>',
-    "palette": '<path class="l" d="M12 2.800a9.2 9.2 0 1 0 0 18.400c1.8 0 2.4-1 2.1-2.2-.4-1.6.4-2.6 2-2.600h2.500c1.8 0 '
-               '2.6-1.4 2.6-3.4 0-5.8-4.1-10.2-9.2-10.200z"/><circle class="b" cx="7.4" cy="12.6" r="1.5"/>'
+                '<path class="a" transform="rotate(-45 12 12)" d="M5.6 8.2v3M9.9 8.2v4.2M14.2 8.2v3M18.5 8.2v4.2"/>',
+    "palette": '<path class="l" d="M12 2.8a9.2 9.2 0 1 0 0 18.4c1.8 0 2.4-1 2.1-2.2-.4-1.6.4-2.6 2-2.6h2.5c1.8 0 '
+               '2.6-1.4 2.6-3.4 0-5.8-4.1-10.2-9.2-10.2z"/><circle class="b" cx="7.4" cy="12.6" r="1.5"/>'
                '<circle class="b" cx="9.6" cy="7.8" r="1.5"/><circle class="b" cx="15" cy="7.6" r="1.5"/>',
     "animation": '<rect class="l" x="3" y="4" width="18" height="16" rx="2"/><path class="l" d="M7 4v16M17 4v16M3 '
-                 '9.300h4M3 14.700h4M17 9.300h4M17 14.700h4"/><path class="b" d="M10.2 8.800l4.6 3.2-4.6 3.200z"/>',
-    "ftp": '<path class="l" d="M6.8 18.800a4.3 4.3 0 0 1-.6-8.5 6.2 6.2 0 0 1 12-.6 4.6 4.6 0 0 1-.6 9.1"/>'
-           '<path class="a" d="M10 20.800v-7.400M7.8 15.400l2.2-2.2 2.2 2.200M14.4 13v7.600M12.2 18.600l2.2 2.2 2.2-2.2"/>',
-    "contacts": '<rect class="l" x="4.6" y="3" width="16" height="18" rx="2"/><path class="l" d="M2.8 7.600h3M2.8 12h3M2.8 '
-                '16.400h3"/><circle class="a" cx="12.8" cy="9.6" r="2.5"/>'
-                '<path class="a" d="M8.4 17.400c0-2.6 1.8-3.9 4.4-3.900s4.4 1.3 4.4 3.9"/>',
+                 '9.3h4M3 14.7h4M17 9.3h4M17 14.7h4"/><path class="b" d="M10.2 8.8l4.6 3.2-4.6 3.2z"/>',
+    "ftp": '<path class="l" d="M6.8 18.8a4.3 4.3 0 0 1-.6-8.5 6.2 6.2 0 0 1 12-.6 4.6 4.6 0 0 1-.6 9.1"/>'
+           '<path class="a" d="M10 20.8v-7.4M7.8 15.4l2.2-2.2 2.2 2.2M14.4 13v7.6M12.2 18.6l2.2 2.2 2.2-2.2"/>',
+    "contacts": '<rect class="l" x="4.6" y="3" width="16" height="18" rx="2"/><path class="l" d="M2.8 7.6h3M2.8 12h3M2.8 '
+                '16.4h3"/><circle class="a" cx="12.8" cy="9.6" r="2.5"/>'
+                '<path class="a" d="M8.4 17.4c0-2.6 1.8-3.9 4.4-3.9s4.4 1.3 4.4 3.9"/>',
     "cipher": '<rect class="l" x="4.4" y="10.4" width="15.2" height="11" rx="2"/>'
-              '<path class="l" d="M7.6 10.400V7a4.4 4.4 0 0 1 8.8 0v3.4"/>'
-              '<path class="a" d="M12 14.800v2.6"/><circle class="b" cx="12" cy="14.8" r="1.5"/>',
-    "style": '<path class="l" d="M8 3.400c-2.6 0-3 1-3 3v2.400c0 1.8-.6 2.6-2.2 3.2 1.6.6 2.2 1.4 2.2 3.200v2.400c0 2 .4 3 '
-             '3 3M16 3.400c2.6 0 3 1 3 3v2.400c0 1.8.6 2.6 2.2 3.2-1.6.6-2.2 1.4-2.2 3.200v2.400c0 2-.4 3-3 3"/>'
-             '<path class="a" d="M9.4 9h5.200M9.4 15h5.2"/><path class="a" d="M9.4 12h2.6"/>',
-    "minimizer": '<path class="l" d="M7.4 5.600L2.8 12l4.6 6.400M16.6 5.600l4.6 6.4-4.6 6.4"/>'
-                 '<path class="a" d="M12 4v4.600M10 7l2 2 2-2M12 20v-4.600M10 17l2-2 2 2"/>',
+              '<path class="l" d="M7.6 10.4V7a4.4 4.4 0 0 1 8.8 0v3.4"/>'
+              '<path class="a" d="M12 14.8v2.6"/><circle class="b" cx="12" cy="14.8" r="1.5"/>',
+    "style": '<path class="l" d="M8 3.4c-2.6 0-3 1-3 3v2.4c0 1.8-.6 2.6-2.2 3.2 1.6.6 2.2 1.4 2.2 3.2v2.4c0 2 .4 3 '
+             '3 3M16 3.4c2.6 0 3 1 3 3v2.4c0 1.8.6 2.6 2.2 3.2-1.6.6-2.2 1.4-2.2 3.2v2.4c0 2-.4 3-3 3"/>'
+             '<path class="a" d="M9.4 9h5.2M9.4 15h5.2"/><path class="a" d="M9.4 12h2.6"/>',
+    "minimizer": '<path class="l" d="M7.4 5.6L2.8 12l4.6 6.4M16.6 5.6l4.6 6.4-4.6 6.4"/>'
+                 '<path class="a" d="M12 4v4.6M10 7l2 2 2-2M12 20v-4.6M10 17l2-2 2 2"/>',
 }
 
 # The letters of the formats' names, as strokes on a cell of 5 by 6.
 LETTERS = {
     "W": "M0 0l1.2 6L2.5 1.6 3.8 6 5 0", "A": "M0 6L2.5 0 5 6M1 4h3", "V": "M0 0l2.5 6L5 0",
-    "M": "M0 6V0l2.5 3.600L5 0v6", "4": "M3.8 6V0L0 4.200h5", "P": "M.4 6V0h2.400a1.8 1.8 0 0 1 0 3.600H.4",
-    "3": "M.6 0h3.600L2.2 2.400a1.8 1.8 0 1 1-1.8 2.6",
+    "M": "M0 6V0l2.5 3.6L5 0v6", "4": "M3.8 6V0L0 4.2h5", "P": "M.4 6V0h2.4a1.8 1.8 0 0 1 0 3.6H.4",
+    "3": "M.6 0h3.6L2.2 2.4a1.8 1.8 0 1 1-1.8 2.6",
 }
 
 
@@ -212,7 +212,7 @@ def glyph(name, key, size=32, lit=False, accent=GREEN, left=0):
 
 FACES = {
     # top and bottom of the face, edge, gloss
-    "rest": ("#636467", "#2b2b2d", "#8f8f8f", 0.20),
+    "rest": ("#636467", "#2b2b2d", "#8f8f8f", 0.2),
     "hover": ("#797b7f", "#333437", "#d2d2d2", 0.28),
     "pressed": ("#232325", "#4a4b4d", "#a8a8a8", 0.06),
 }
@@ -233,7 +233,7 @@ def face(width, height, radius, state):
 PLAY = {
     "Pause": ('<rect x="27.5" y="10" width="4.6" height="15" rx="1.2"/>'
               '<rect x="35.9" y="10" width="4.6" height="15" rx="1.2"/>', "#f4f4f4", "#c3c5c8"),
-    "Play": ('<path d="M28.6 10.400c0-1 .8-1.4 1.6-1l11.6 7.100c.8.5.8 1.5 0 2l-11.6 7.100c-.8.4-1.6 0-1.6-1z"/>',
+    "Play": ('<path d="M28.6 10.4c0-1 .8-1.4 1.6-1l11.6 7.1c.8.5.8 1.5 0 2l-11.6 7.1c-.8.4-1.6 0-1.6-1z"/>',
              "#86f286", "#22b422"),
     "Stop": ('<rect x="27.5" y="11" width="13" height="13" rx="1.6"/>', "#ff8d82", "#d22d22"),
 }
@@ -279,7 +279,7 @@ def tile(name, size, hue, body, grid=64, style="", lit=False):
 
 
 def glyph_tile(name, key, size, hue, accent, lit=False):
-    body = f'<g filter="url(#shadow)" transform="translate(11 11) scale(1.750)">{GLYPHS[key]}</g>'
+    body = f'<g filter="url(#shadow)" transform="translate(11 11) scale(1.75)">{GLYPHS[key]}</g>'
     tile(name, size, hue, body, style=inks("url(#metal)", accent), lit=lit)
 
 
@@ -301,7 +301,7 @@ def converter_tile(name, word, accent):
     body = f'<g filter="url(#shadow)">{bars([(x, h * 0.74) for x, h in BARS], 25, 4.4, 3, accent)}</g>'
     cells = "".join(f'<path transform="translate({number * 7.4:.1f} 0)" d="{LETTERS[letter]}"/>'
                     for number, letter in enumerate(word))
-    body += (f'<g transform="translate(15.5 45) scale(1.660)" fill="none" stroke="#fff" stroke-width="1.45" '
+    body += (f'<g transform="translate(15.5 45) scale(1.66)" fill="none" stroke="#fff" stroke-width="1.45" '
              f'stroke-linecap="round" stroke-linejoin="round">{cells}</g>')
     tile("catalogue/" + name, 64, CHARCOAL, body)
 
@@ -399,8 +399,8 @@ def program():
 def updates():
     """The program with a badge: an arrow for something to fetch, a hook for nothing to do."""
     ink, body = app_body(SMALL_BARS, 30, 5.6, 2)
-    badges = {"update_available": ("#2fc42f", "#0b7a0b", "M48 41v13M42.5 49.500L48 55l5.5-5.5"),
-              "update_not_available": ("#85888d", "#3c3e41", "M41.8 48.600l4.4 4.4 8-8.6")}
+    badges = {"update_available": ("#2fc42f", "#0b7a0b", "M48 41v13M42.5 49.5L48 55l5.5-5.5"),
+              "update_not_available": ("#85888d", "#3c3e41", "M41.8 48.6l4.4 4.4 8-8.6")}
     for name, (top, bottom, mark) in badges.items():
         badge = (f'<linearGradient id="badge" gradientUnits="userSpaceOnUse" x1="0" y1="35" x2="0" y2="61">'
                  f'<stop offset="0" stop-color="{top}"/><stop offset="1" stop-color="{bottom}"/></linearGradient>')
@@ -486,7 +486,7 @@ def surfaces():
             'stroke-width="1.6" fill="none"/>')
     write("panelbackground", document(48, 48, 48, 48, "", "", body))
 
-    body = '<path d="M.8 1.700h5.400L3.5 5.900z" fill="#e8e9ea" stroke="#e8e9ea" stroke-width="0.8" stroke-linejoin="round"/>'
+    body = '<path d="M.8 1.7h5.4L3.5 5.9z" fill="#e8e9ea" stroke="#e8e9ea" stroke-width="0.8" stroke-linejoin="round"/>'
     write("spinbox_button2", document(7, 7, 7, 7, "", "", body))
 
 
@@ -495,7 +495,7 @@ def maker():
     mark = "".join(f'<path d="M{x} 9v{length}" stroke="{colour}"/>' for x, length, colour in (
         (5, 7, "url(#metal)"), (12, 18, "url(#metal)"), (19, 29, GREEN), (26, 18, "url(#metal)"),
         (33, 7, "url(#metal)")))
-    letters = ((48, "M0 21l6 14 6-14"), (64.5, "M.2 28.200h13.500a6.8 7 0 1 0-2.6 5.4"), (83.5, "M0 9v26"),
+    letters = ((48, "M0 21l6 14 6-14"), (64.5, "M.2 28.2h13.5a6.8 7 0 1 0-2.6 5.4"), (83.5, "M0 9v26"),
                (90.5, "M0 35V21M0 27c0-4 1.9-6 4.8-6s4.8 2 4.8 6v8M9.6 27c0-4 1.9-6 4.8-6s4.8 2 4.8 6v8"),
                (114, "M0 28a7 7 0 1 0 14 0a7 7 0 1 0-14 0"), (133.5, "M0 35V21M0 28c0-4.5 2.4-7 6.4-7"),
                (143.5, "M0 28a7 7 0 1 0 14 0a7 7 0 1 0-14 0M14 21v14"))
