@@ -6,6 +6,7 @@
 #include "RateAppStoreDialog.h"
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <QDesktopServices>
@@ -16,7 +17,7 @@ using QMWidgets::ReminderStateDialog;
 
 namespace {
 
-using Answer = void (ReminderStateDialog::*)();
+using Answer = std::function<void(ReminderStateDialog *)>;
 
 /// Answers every reminder that comes up, and counts them.
 class User : public QObject
@@ -24,7 +25,7 @@ class User : public QObject
     Q_OBJECT
 
 public:
-    explicit User(Answer answer)
+    explicit User(const Answer &answer)
         : m_answer(answer)
     {
         for (const QString &strScheme : {u"https"_qs, u"mailto"_qs}) {
@@ -34,7 +35,7 @@ public:
             auto *pdlg = qobject_cast<ReminderStateDialog *>(QApplication::activeModalWidget());
             if (pdlg != nullptr) {
                 classes << QString::fromLatin1(pdlg->metaObject()->className());
-                (pdlg->*m_answer)();
+                m_answer(pdlg);
             }
         });
         m_timer.start(10);
