@@ -3,6 +3,7 @@
 #include "Bus.h"
 #include "FileManager.h"
 #include "Launcher.h"
+#include "OpenedUrls.h"
 #include "SleepInhibitor.h"
 #include "SystemNotices.h"
 #include "TestBus.h"
@@ -11,7 +12,6 @@
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCall>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
@@ -26,27 +26,6 @@ namespace {
 const QString loginName = u"org.freedesktop.login1"_qs;
 const QString loginPath = u"/org/freedesktop/login1"_qs;
 const QString loginInterface = u"org.freedesktop.login1.Manager"_qs;
-
-TestBus &bus()
-{
-    static TestBus theBus;
-    return theBus;
-}
-
-/// Takes the folders that would be opened.
-class Folders : public QObject
-{
-    Q_OBJECT
-
-public:
-    Folders() { QDesktopServices::setUrlHandler(u"file"_qs, this, "open"); }
-    ~Folders() override { QDesktopServices::unsetUrlHandler(u"file"_qs); }
-
-    QList<QUrl> opened;
-
-public slots:
-    void open(const QUrl &url) { opened.append(url); }
-};
 
 /// The mock of the login manager, a process of its own.
 class LoginManager
@@ -109,12 +88,12 @@ TEST(DesktopBus, showsItemsInTheFileManagerOrOpensTheFolder)
     const QTemporaryDir dir;
     const QString strFile = dir.filePath(u"a b%20ü.m4a"_qs);
     ASSERT_TRUE(MediaMaker::writeFile(strFile, "x"));
-    Folders folders;
+    const OpenedUrls folders;
     EXPECT_FALSE(Desktop::showInFileManager(dir.filePath(u"none"_qs)));
     EXPECT_FALSE(Desktop::showInFileManager(QString()));
     {
         TestService service(
-            bus(), u"org.freedesktop.FileManager1"_qs, u"/org/freedesktop/FileManager1"_qs);
+            u"org.freedesktop.FileManager1"_qs, u"/org/freedesktop/FileManager1"_qs);
         EXPECT_TRUE(Desktop::showInFileManager(strFile));
         ASSERT_TRUE(service.waitForCalls(1));
         EXPECT_EQ(service.calls[0].member(), u"ShowItems"_qs);
@@ -127,17 +106,17 @@ TEST(DesktopBus, showsItemsInTheFileManagerOrOpensTheFolder)
             return message.createErrorReply(QDBusError::Failed, u"no display"_qs);
         };
         EXPECT_TRUE(Desktop::showInFileManager(dir.path() + u'/'));
-        EXPECT_TRUE(waitFor([&folders] { return folders.opened.size() == 1; }));
+        EXPECT_TRUE(waitFor([&folders] { return folders.list.size() == 1; }));
     }
     EXPECT_TRUE(Desktop::showInFileManager(strFile));
-    ASSERT_TRUE(waitFor([&folders] { return folders.opened.size() == 2; }));
-    EXPECT_EQ(folders.opened[1].toLocalFile(), dir.path());
+    ASSERT_TRUE(waitFor([&folders] { return folders.list.size() == 2; }));
+    EXPECT_EQ(folders.list[1].toLocalFile(), dir.path());
 }
 
 TEST(DesktopBus, keepsTheDisplayAwakeAndGivesEveryCookieBack)
 {
     const LoginManager login;
-    TestService saver(bus(), u"org.freedesktop.ScreenSaver"_qs, u"/org/freedesktop/ScreenSaver"_qs);
+    TestService saver(u"org.freedesktop.ScreenSaver"_qs, u"/org/freedesktop/ScreenSaver"_qs);
     uint nCookie = 6;
     saver.answer = [&nCookie](const QDBusMessage &message) {
         return message.member() == u"Inhibit"_qs ? message.createReply(++nCookie)
@@ -218,7 +197,7 @@ TEST(DesktopBus, showsTheBadge)
 
 TEST(DesktopBus, aServiceThatNeverAnswersIsGivenUp)
 {
-    TestService mute(bus(), u"example.Mute"_qs, u"/mute"_qs);
+    TestService mute(u"example.Mute"_qs, u"/mute"_qs);
     mute.answer = {};
     QString strError;
     QElapsedTimer timer;
@@ -314,7 +293,7 @@ TEST(DesktopBus, aSecondStartHandsItsPathsToTheFirst)
 TEST(DesktopBus, aStartGoesOnWithoutAnAnswer)
 {
     {
-        TestService frozen(bus(), u"example.velmora.Test"_qs, u"/example/velmora/Test"_qs);
+        TestService frozen(u"example.velmora.Test"_qs, u"/example/velmora/Test"_qs);
         frozen.answer = {};
         const SecondStart second = startAgain({u"/x"_qs});
         EXPECT_TRUE(second.bHandedOver);
@@ -333,18 +312,6 @@ TEST(DesktopBus, aStartGoesOnWithoutAnAnswer)
     EXPECT_LT(stuck.nMsecs, 2000);
     EXPECT_EQ(stuck.nExit, 0);
 }
-
-/// Starts the bus before the first test asks for it.
-class BusEnvironment : public testing::Environment
-{
-public:
-    void SetUp() override
-    {
-        if (!qEnvironmentVariableIsSet("TEST_PATHS")) {
-            bus();
-        }
-    }
-};
 
 const auto *const busEnvironment = testing::AddGlobalTestEnvironment(new BusEnvironment);
 

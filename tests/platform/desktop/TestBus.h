@@ -4,6 +4,7 @@
 #include "MediaMaker.h"
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -47,14 +48,21 @@ private:
     QString m_address;
 };
 
+/// The bus of the process; it is started before the first test asks for one.
+inline TestBus &bus()
+{
+    static TestBus theBus;
+    return theBus;
+}
+
 /// A service on the bus that notes the calls of one interface and answers as it is told.
 class TestService : public QDBusVirtualObject
 {
 public:
     using Answer = std::function<QDBusMessage(const QDBusMessage &)>;
 
-    TestService(const TestBus &bus, const QString &strName, const QString &strPath)
-        : m_connection(bus.connection())
+    TestService(const QString &strName, const QString &strPath)
+        : m_connection(bus().connection())
         , m_strName(strName)
         , m_strPath(strPath)
     {
@@ -95,4 +103,16 @@ private:
     QDBusConnection m_connection;
     QString m_strName;
     QString m_strPath;
+};
+
+/// Starts the bus, but in a process that is to find its own.
+class BusEnvironment : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        if (!qEnvironmentVariableIsSet("TEST_PATHS")) {
+            bus();
+        }
+    }
 };

@@ -1,6 +1,7 @@
 #include "App.h"
 #include "Literals.h"
 #include "MediaMaker.h"
+#include "OpenedUrls.h"
 #include "Os.h"
 #include "PlatformVersion.h"
 #include "RateAppStoreDialog.h"
@@ -9,7 +10,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
-#include <QDesktopServices>
 #include <QTimer>
 
 using QMWidgets::App;
@@ -20,17 +20,12 @@ namespace {
 using Answer = std::function<void(ReminderStateDialog *)>;
 
 /// Answers every reminder that comes up, and counts them.
-class User : public QObject
+class User : public OpenedUrls
 {
-    Q_OBJECT
-
 public:
     explicit User(const Answer &answer)
         : m_answer(answer)
     {
-        for (const QString &strScheme : {u"https"_qs, u"mailto"_qs}) {
-            QDesktopServices::setUrlHandler(strScheme, this, "open");
-        }
         connect(&m_timer, &QTimer::timeout, this, [this] {
             auto *pdlg = qobject_cast<ReminderStateDialog *>(QApplication::activeModalWidget());
             if (pdlg != nullptr) {
@@ -41,18 +36,7 @@ public:
         m_timer.start(10);
     }
 
-    ~User() override
-    {
-        for (const QString &strScheme : {u"https"_qs, u"mailto"_qs}) {
-            QDesktopServices::unsetUrlHandler(strScheme);
-        }
-    }
-
     QStringList classes;
-    QList<QUrl> opened;
-
-public slots:
-    void open(const QUrl &url) { opened.append(url); }
 
 private:
     Answer m_answer;
@@ -129,8 +113,8 @@ TEST_F(Reminders, arePutWhenTheUserQuits)
     QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
     QCoreApplication::exec();
     EXPECT_EQ(mailing.classes, QStringList {u"QMWidgets::JoinReminderDialog"_qs});
-    ASSERT_EQ(mailing.opened.size(), 1);
-    EXPECT_EQ(mailing.opened[0].scheme(), u"mailto"_qs);
+    ASSERT_EQ(mailing.list.size(), 1);
+    EXPECT_EQ(mailing.list[0].scheme(), u"mailto"_qs);
     EXPECT_FALSE(isAutomatic());
 }
 
@@ -215,8 +199,8 @@ TEST_F(Reminders, aReviewIsTheOwnDialogOnce)
     store("RequestedReviewsLastDate", QString());
     Os::requestReview(false);
     EXPECT_EQ(rating.classes, QStringList {u"QMWidgets::RateAppStoreDialog"_qs});
-    ASSERT_EQ(rating.opened.size(), 1);
-    EXPECT_TRUE(rating.opened[0].query().contains(u"write-review"_qs));
+    ASSERT_EQ(rating.list.size(), 1);
+    EXPECT_TRUE(rating.list[0].query().contains(u"write-review"_qs));
     EXPECT_FALSE(isAutomatic());
 
     store("AutoReminder", true);
@@ -227,5 +211,3 @@ TEST_F(Reminders, aReviewIsTheOwnDialogOnce)
 }
 
 }
-
-#include "RemindersTest.moc"

@@ -2,6 +2,7 @@
 #include "App.h"
 #include "App_mac.h"
 #include "FileDialog.h"
+#include "OpenedUrls.h"
 #include "PlatformVersion.h"
 #include "SimpleBookmark.h"
 #include "TestBus.h"
@@ -9,13 +10,11 @@
 #include <gtest/gtest.h>
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCall>
-#include <QDesktopServices>
 #include <QDir>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QUrlQuery>
 
 using MediaMaker::waitFor;
 using QMWidgets::App;
@@ -23,12 +22,6 @@ using QMWidgets::FileDialog;
 using QMWidgets::SimpleBookmark;
 
 namespace {
-
-TestBus &bus()
-{
-    static TestBus theBus;
-    return theBus;
-}
 
 QStringList g_lstLog;
 
@@ -65,43 +58,24 @@ TEST(Os, theDesktopOpensFilesAndActivates)
     EXPECT_FALSE(page.isMinimized());
 }
 
-/// Takes the addresses that would go to the browser or the mail program.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> opened;
-
-public slots:
-    void open(const QUrl &url) { opened.append(url); }
-};
-
 TEST(Os, sharesThroughPagesAndMail)
 {
-    Browser browser;
-    QDesktopServices::setUrlHandler(u"https"_qs, &browser, "open");
-    QDesktopServices::setUrlHandler(u"mailto"_qs, &browser, "open");
+    const OpenedUrls browser;
     const QUrl url(u"https://velmora.example/x?y=1&z=2"_qs);
     const QString strText = u"Drop & done: 100 % #1"_qs;
     setPlatformVersion(9);
     Os::postToTwitter(strText, QPixmap(), url);
-    EXPECT_TRUE(browser.opened.isEmpty());
+    EXPECT_TRUE(browser.list.isEmpty());
     setPlatformVersion(16);
     Os::postToTwitter(strText, QPixmap(), url);
     Os::postToFacebook(strText, QPixmap(), url);
     Os::postToLinkedin(strText, QPixmap(), url);
     Os::postToEmail(strText, QPixmap(), url);
-    QDesktopServices::unsetUrlHandler(u"https"_qs);
-    QDesktopServices::unsetUrlHandler(u"mailto"_qs);
-    ASSERT_EQ(browser.opened.size(), 4);
-    const auto item = [&browser](int n, const QString &strKey) {
-        return QUrlQuery(browser.opened[n]).queryItemValue(strKey, QUrl::FullyDecoded);
-    };
-    EXPECT_EQ(item(0, u"status"_qs), strText + u' ' + url.toString());
-    EXPECT_EQ(item(1, u"u"_qs), url.toString());
-    EXPECT_EQ(item(2, u"url"_qs), url.toString());
-    EXPECT_EQ(item(3, u"body"_qs), strText + u'\n' + url.toString());
+    ASSERT_EQ(browser.list.size(), 4);
+    EXPECT_EQ(browser.item(0, u"status"_qs), strText + u' ' + url.toString());
+    EXPECT_EQ(browser.item(1, u"u"_qs), url.toString());
+    EXPECT_EQ(browser.item(2, u"url"_qs), url.toString());
+    EXPECT_EQ(browser.item(3, u"body"_qs), strText + u'\n' + url.toString());
 }
 
 TEST(Os, bookmarksAreStoredAndTellWhatIsWrong)
@@ -177,15 +151,6 @@ TEST(Os, fileDialogsAreSheetsOfTheirParent)
         FileDialog::getOpenFileName(pwgt.get(), {}, strDir, strFilter, nullptr, option), QString());
 }
 
-/// Starts the bus before the first test asks for it.
-class BusEnvironment : public testing::Environment
-{
-public:
-    void SetUp() override { bus(); }
-};
-
 const auto *const busEnvironment = testing::AddGlobalTestEnvironment(new BusEnvironment);
 
 }
-
-#include "OsTest.moc"

@@ -1,15 +1,13 @@
 #include "App.h"
 #include "AppUpdateDialog.h"
-#include "Downloader.h"
+#include "OpenedUrls.h"
 #include "TestServer.h"
 
 #include <gtest/gtest.h>
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QTimer>
-#include <QUrlQuery>
 
 using QMWidgets::App;
 
@@ -128,34 +126,17 @@ TEST(AppUpdate, checksAtTheStartEverySixDays)
     App::setClock({});
 }
 
-/// Takes the page that the dialog opens.
-class Browser : public QObject
-{
-    Q_OBJECT
-
-public:
-    QUrl last;
-
-public slots:
-    void open(const QUrl &url) { last = url; }
-};
-
 TEST(AppUpdate, dialogStoresItsBoxAndOpensThePage)
 {
-    Browser browser;
-    QDesktopServices::setUrlHandler(u"https"_qs, &browser, "open");
+    const OpenedUrls browser;
     AppUpdateDialog dialog;
     dialog.findChild<QCheckBox *>()->click();
     EXPECT_FALSE(AppUpdateDialog::isChecked());
     dialog.findChild<QCheckBox *>()->click();
     EXPECT_TRUE(AppUpdateDialog::isChecked());
     dialog.slotUpdate();
-    EXPECT_EQ(browser.last.path(), u"/apps/updatepage.php"_qs);
-    EXPECT_EQ(QUrlQuery(browser.last).queryItemValue(u"appname"_qs, QUrl::FullyDecoded),
-        u"calderin m4a"_qs);
-    QDesktopServices::unsetUrlHandler(u"https"_qs);
+    EXPECT_EQ(browser.last().path(), u"/apps/updatepage.php"_qs);
+    EXPECT_EQ(browser.item(0, u"appname"_qs), u"calderin m4a"_qs);
 }
 
 }
-
-#include "AppUpdateTest.moc"
