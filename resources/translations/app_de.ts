@@ -328,7 +328,7 @@
         <name>MainPage</name>
         <message>
             <source>Click to open the folder with audio/video files</source>
-            <translation>Klicken, um den Ordner mit Audio-/Videodateien zu öffnen</translation>
+            <translation>Ordner mit Audio-/Videodateien öffnen</translation>
         </message>
         <message>
             <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>

@@ -209,7 +209,6 @@ void takeDialogs(const Photographer &photographer)
 int main(int argc, char **argv)
 {
     ensureUtf8FileNames();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QMWidgets::App app(argc, argv, programOrganisation(), programName());
