@@ -12,6 +12,7 @@
 #include "Literals.h"
 #include "MediaSearchDialog.h"
 #include "Os.h"
+#include "PathBox.h"
 #include "PlayListModel.h"
 #include "PromoMenuBar.h"
 #include "SimpleBookmark.h"
@@ -110,10 +111,8 @@ void MainPage::createDropArea()
 
 QLayout *MainPage::createDestinationRow()
 {
-    m_pcbxDestination = new QComboBox(this);
+    m_pcbxDestination = new PathBox(this);
     m_pcbxDestination->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    // The path must not decide the width of the window.
-    m_pcbxDestination->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_pcbxDestination->addItem(QString(), CurrentRow);
     m_pcbxDestination->addItem(tr("Change destination folder..."), ChangeRow);
     m_pcbxDestination->addItem(tr("Reset"), ResetRow);

@@ -47,6 +47,7 @@ QHBoxLayout *centred(const QList<QWidget *> &widgets)
 void MainPage::createPlayWidgets()
 {
     m_plblFileName = new ElidedLabel(ElidedLabel::Kind::Heading, this);
+    m_plblFileName->setAlignment(Qt::AlignCenter);
     m_plblFileName->setObjectName(u"m_plblFileName"_qs);
     m_plblPlayed = new QLabel(this);
     m_plblRemained = new QLabel(this);
@@ -57,8 +58,8 @@ void MainPage::createPlayWidgets()
     m_pcmdPlayAndPause->setFlat(true);
     m_pcmdPlayAndPause->setCheckable(true);
     m_pcmdPlayAndPause->setObjectName(u"m_pcmdPlayAndPause"_qs);
-    m_pcmdPlayAndPause->setToolTip(tr("Pause"));
-    m_pcmdPlayAndPause->setAccessibleName(tr("Pause"));
+    m_pcmdPlayAndPause->setToolTip(tr("Play or pause"));
+    m_pcmdPlayAndPause->setAccessibleName(tr("Play or pause"));
     m_pcmdStop = new QPushButton(this);
     m_pcmdStop->setFlat(true);
     m_pcmdStop->setObjectName(u"m_pcmdStop"_qs);
@@ -74,6 +75,8 @@ QWidget *MainPage::createPlayPage()
     m_plblPlayDecoration->setObjectName(u"m_plblPlayDecoration"_qs);
     m_plblPlayDecoration->setRetinaPixmap(QPixmap(u":/Box.png"_qs));
 
+    // Time runs from left to right in every language, as on all players.
+    m_plblPlayDecoration->setLayoutDirection(Qt::LeftToRight);
     auto *timeLine = new QHBoxLayout;
     timeLine->addWidget(m_plblPlayed);
     timeLine->addWidget(m_psldTimeLine);

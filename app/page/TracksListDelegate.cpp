@@ -133,6 +133,8 @@ void TracksListDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     const QRect area = nameArea(row);
     painter->setBrush(Qt::black);
     painter->setPen(Qt::white);
+    // A name runs as its own letters do, whatever the language of the window.
+    painter->setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter->setFont(fontOf(option, QFont::Bold, 15));
     // The popup button covers what lies to the right of its left edge.
     const int width = std::min(row.right() - row.left() - 42, row.width() - 36 - area.left());
@@ -142,6 +144,7 @@ void TracksListDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     painter->setPen(Qt::lightGray);
     painter->drawLine(row.left() + 8, row.bottom(), row.right() - row.left() - 7, row.bottom());
 
+    painter->setLayoutDirection(Qt::LeftToRight);
     painter->setFont(fontOf(option, QFont::Normal, 10));
     QRect dateArea = area;
     dateArea.moveTop(row.bottom() - 10 + 1 - painter->fontMetrics().height());
