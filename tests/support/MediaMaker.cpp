@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
@@ -98,6 +100,17 @@ bool writeFile(const QString &file, const QByteArray &bytes)
     QFile output(file);
     return output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size()
         && output.flush();
+}
+
+QStringList filesBelow(const QString &folder)
+{
+    QStringList names;
+    QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        names << QDir(folder).relativeFilePath(files.next());
+    }
+    names.sort();
+    return names;
 }
 
 bool waitFor(const std::function<bool()> &condition, int limitMs)

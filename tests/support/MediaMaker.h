@@ -44,6 +44,9 @@ QByteArray bytesOf(const QString &file);
 /// Writes the bytes to a new file; false if that fails.
 bool writeFile(const QString &file, const QByteArray &bytes);
 
+/// The files below a folder, hidden ones too, as sorted paths relative to it.
+QStringList filesBelow(const QString &folder);
+
 /// Runs the event loop until the condition holds, at most limitMs; returns whether it holds.
 bool waitFor(const std::function<bool()> &condition, int limitMs = 10000);
 

@@ -20,8 +20,7 @@ SoundServer::SoundServer()
         {u"-n"_qs, u"--daemonize=no"_qs, u"--exit-idle-time=-1"_qs, u"--disable-shm"_qs,
             u"--use-pid-file=no"_qs, u"-L"_qs,
             u"module-null-sink sink_name=out format=float32le rate=48000 channels=2 norewinds=1"_qs,
-            u"-L"_qs,
-            u"module-native-protocol-unix auth-anonymous=1 socket="_qs + socketPath()});
+            u"-L"_qs, u"module-native-protocol-unix auth-anonymous=1 socket="_qs + socketPath()});
     if (!m_server.waitForStarted()
         || !MediaMaker::waitFor([this] { return QFile::exists(socketPath()); })) {
         return;

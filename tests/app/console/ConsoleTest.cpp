@@ -7,13 +7,13 @@
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <sys/stat.h>
 
+using MediaMaker::filesBelow;
 using MediaMaker::runTool;
 using MediaMaker::ToolResult;
 
@@ -56,17 +56,6 @@ protected:
     {
         return MediaMaker::probe(file, u"stream=duration_ts"_qs) == QString::number(seconds * 44100)
             && MediaMaker::decode(file, u"s16le"_qs).size() >= seconds * 44100 * 4;
-    }
-
-    static QStringList tree(const QString &folder)
-    {
-        QStringList names;
-        QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            names << QDir(folder).relativeFilePath(files.next());
-        }
-        names.sort();
-        return names;
     }
 
     QTemporaryDir m_scratch;
@@ -119,7 +108,7 @@ TEST_F(ConsoleTest, ConvertsAFolderAndSaysWhatCameOfIt)
     EXPECT_EQ(result.exitCode, 1);
     const QString folder = lastLine(result.standardOutput);
     EXPECT_EQ(QString::fromUtf8(result.standardOutput), folder + u"\n"_qs);
-    EXPECT_EQ(tree(folder),
+    EXPECT_EQ(filesBelow(folder),
         QStringList({u"album/a.m4a"_qs, u"album/sub/b.m4a"_qs,
             QString::fromUtf8(
                 "album/\xd0\xbf\xd0\xb5\xd1\x81\xd0\xbd\xd1\x8f \xf0\x9f\x8e\xb5.m4a")}));
@@ -163,12 +152,12 @@ TEST_F(ConsoleTest, FinishesTheFileAtHandOnAnInterrupt)
     QProcess process;
     process.start(program(), {u"--destination"_qs, out(), in(QString())});
     // The first finished file shows that the run is in the middle.
-    ASSERT_TRUE(
-        MediaMaker::waitFor([this] { return !tree(out()).filter(u".m4a"_qs).isEmpty(); }, 60000));
+    ASSERT_TRUE(MediaMaker::waitFor(
+        [this] { return !filesBelow(out()).filter(u".m4a"_qs).isEmpty(); }, 60000));
     ASSERT_EQ(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
     ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitCode(), 130);
-    const QStringList files = tree(out());
+    const QStringList files = filesBelow(out());
     EXPECT_LT(files.size(), 40);
     for (const QString &file : files) {
         EXPECT_TRUE(file.endsWith(u".m4a"_qs)) << file.toStdString();
@@ -191,7 +180,7 @@ TEST_F(ConsoleTest, LeavesNoDamagedFileWhenItIsKilled)
     }
     EXPECT_EQ(MediaMaker::hashOfFile(in(u"long.wav"_qs)), before);
     // The converter is a process of its own: what it still finishes is complete as well.
-    for (const QString &file : tree(out()).filter(u".m4a"_qs)) {
+    for (const QString &file : filesBelow(out()).filter(u".m4a"_qs)) {
         const QString path = out() + u"/"_qs + file;
         if (QFileInfo(path).size() > 0) {
             EXPECT_TRUE(isWhole(path, 60)) << file.toStdString();
@@ -210,7 +199,7 @@ TEST_F(ConsoleTest, ReplacesNonsenseInTheStoreAndGoesOn)
     const ToolResult result = convert({in(QString())});
     EXPECT_TRUE(QFile::remove(support + u"settings.plist"_qs));
     EXPECT_EQ(result.exitCode, 0) << result.standardError.constData();
-    const QStringList files = tree(lastLine(result.standardOutput));
+    const QStringList files = filesBelow(lastLine(result.standardOutput));
     ASSERT_EQ(files.size(), 1);
     EXPECT_EQ(MediaMaker::probe(lastLine(result.standardOutput) + u"/"_qs + files.first(),
                   u"stream=sample_rate,channels"_qs),
