@@ -226,6 +226,7 @@ SecondStart startAgain(const QStringList &lstPaths, const QString &strAddress = 
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"TEST_PATHS"_qs, lstPaths.join(u'|'));
+    environment.insert(u"CALDERIN_TEST_BUS"_qs, u"1"_qs);
     if (!strAddress.isEmpty()) {
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_qs, strAddress);
     }
