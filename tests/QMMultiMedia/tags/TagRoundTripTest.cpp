@@ -390,4 +390,33 @@ TEST_F(TagRoundTrip, FieldsAndCoverTravelFromEveryFormat)
     }
 }
 
+/// The second reader, through the audio-file layer, finds the fields that its dictionary has.
+TEST_F(TagRoundTrip, TheAudioFileLayerSaysTheSame)
+{
+    const QString mp3 = s_dir->filePath(u"layer.mp3"_qs);
+    ASSERT_TRUE(encode(mp3, {u"-id3v2_version"_qs, u"4"_qs}, s_png));
+    const QString flac = s_dir->filePath(u"layer.flac"_qs);
+    ASSERT_TRUE(flacWithMetaflac(flac, s_png, comments(), wave()));
+    const Fields expected = allFields();
+    for (const QString &file : {mp3, flac}) {
+        SCOPED_TRACE(file.toStdString());
+        QMMultiMedia::NativeMetaTags tags;
+        ASSERT_TRUE(tags.readFromCO(file));
+        EXPECT_EQ(tags.title(), expected[u"Title"_qs]);
+        EXPECT_EQ(tags.artist(), expected[u"Artist"_qs]);
+        EXPECT_EQ(tags.album(), expected[u"Album"_qs]);
+        EXPECT_EQ(tags.composer(), expected[u"Composer"_qs]);
+        EXPECT_EQ(tags.genre(), expected[u"Genre"_qs]);
+        EXPECT_EQ(tags.trackNumber(), u"5/12"_qs);
+        EXPECT_NEAR(tags.approximateDurationInSeconds().toDouble(), 0.5, 0.1);
+        EXPECT_LT(difference(tags.albumArtwork(), QImage(s_png)), 0.01);
+    }
+    QMMultiMedia::NativeMetaTags tags;
+    QStringList errors;
+    QObject::connect(&tags, &QMMultiMedia::NativeMetaTags::error, &tags,
+        [&errors](const QString &line) { errors.append(line); });
+    EXPECT_FALSE(tags.readFromCO(s_dir->filePath(u"none.mp3"_qs)));
+    EXPECT_EQ(errors, QStringList(u"-43 : ExtAudioFileOpenURL failed "_qs));
+}
+
 }

@@ -10,15 +10,15 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const MemoryFile memory;
-    memory.fill(data, size);
-    QFile file(memory.path());
+    const MemoryFile memory(data, size);
+    const QString path = QString::fromLatin1(memory.path());
+    QFile file(path);
     if (file.open(QIODevice::ReadOnly)) {
         const FileKind kind = fileKind(file, u"mp3"_qs);
         if (kind == FileKind::Asf) {
             asfMetadata(file);
         } else {
-            tagLibMetadata(memory.path(), kind);
+            tagLibMetadata(path, kind);
         }
     }
     return 0;

@@ -12,8 +12,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const MemoryFile source;
-    static const MemoryFile destination;
     QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<int>(size));
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -21,18 +19,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         encodedItems(format.items);
     }
 
-    source.fill(data, size);
-    destination.fill(data, 0);
-    QFile file;
-    file.open(source.descriptor(), QIODevice::ReadOnly);
-    Mp4Rewriter rewriter(file, destination.descriptor());
+    const MemoryFile source(data, size);
+    const MemoryFile destination(data, 0);
+    QFile file(QString::fromLatin1(source.path()));
+    QFile written(QString::fromLatin1(destination.path()));
+    if (!file.open(QIODevice::ReadOnly) || !written.open(QIODevice::ReadWrite)) {
+        std::abort();
+    }
+    Mp4Rewriter rewriter(file, written.handle());
     const auto title = FieldTable::item(FieldTable::Field::Title, u"T"_qs, MetadataType::text());
     if (rewriter.write({title})) {
-        QFile written(destination.path());
-        const bool isRead = written.open(QIODevice::ReadOnly) && [&] {
-            const QList<MetadataFormat> formats = mp4Metadata(written);
-            return !formats.isEmpty() && formats.first().items.first().stringValue() == u"T"_qs;
-        }();
+        const QList<MetadataFormat> formats = mp4Metadata(written);
+        const bool isRead
+            = !formats.isEmpty() && formats.first().items.first().stringValue() == u"T"_qs;
         if (!isRead) {
             std::abort();
         }
