@@ -87,13 +87,18 @@ MainPage::MainPage(QWidget *parent)
 
 MainPage::~MainPage()
 {
-    stopAll();
-    // The runs wait for their threads; they are to be gone before the members that they use.
-    qDeleteAll(m_lstRuns);
     if (!isFullScreen()) {
         App::setSettingsValue(keyWidth, width());
         App::setSettingsValue(keyHeight, height());
     }
+    stopAll();
+    if (!m_lstRuns.isEmpty()) {
+        // The file at hand may take a while: no window is left on the screen that doesn't answer.
+        hide();
+        QGuiApplication::sync();
+    }
+    // The runs wait for their threads; they are to be gone before the members that they use.
+    qDeleteAll(m_lstRuns);
 }
 
 void MainPage::createDropArea()

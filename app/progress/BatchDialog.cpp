@@ -233,7 +233,8 @@ void BatchDialog::showEvent(QShowEvent *event)
     m_plblPreview->setText(summary());
     QDialog::showEvent(event);
     if (const QWidget *page = parentWidget()) {
-        move(page->window()->pos());
+        // Contents over contents: the window manager counts its frame by this, not by a move.
+        setGeometry(QRect(page->window()->mapToGlobal(QPoint()), size()));
     }
 }
 
