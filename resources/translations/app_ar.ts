@@ -5,205 +5,205 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>320 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>320 كيلوبت/ث</translation>
     </message>
     <message>
         <source>256 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>256 كيلوبت/ث</translation>
     </message>
     <message>
         <source>224 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>224 كيلوبت/ث</translation>
     </message>
     <message>
         <source>192 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>192 كيلوبت/ث</translation>
     </message>
     <message>
         <source>160 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>160 كيلوبت/ث</translation>
     </message>
     <message>
         <source>128 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>128 كيلوبت/ث</translation>
     </message>
     <message>
         <source>112 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>112 كيلوبت/ث</translation>
     </message>
     <message>
         <source>96 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>96 كيلوبت/ث</translation>
     </message>
     <message>
         <source>80 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>80 كيلوبت/ث</translation>
     </message>
     <message>
         <source>64 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>64 كيلوبت/ث</translation>
     </message>
     <message>
         <source>56 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>56 كيلوبت/ث</translation>
     </message>
     <message>
         <source>48 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>48 كيلوبت/ث</translation>
     </message>
     <message>
         <source>40 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>40 كيلوبت/ث</translation>
     </message>
     <message>
         <source>32 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>32 كيلوبت/ث</translation>
     </message>
     <message>
         <source>24 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>24 كيلوبت/ث</translation>
     </message>
     <message>
         <source>16 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>16 كيلوبت/ث</translation>
     </message>
     <message>
         <source> Settings</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – الإعدادات</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>1 (Mono)</source>
-        <translation type="unfinished"></translation>
+        <translation>1 (أحادي)</translation>
     </message>
     <message>
         <source>2 (Stereo)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 (ستيريو)</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>عالية</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>متوسطة</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>منخفضة</translation>
     </message>
     <message>
         <source>BitRate</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل البت</translation>
     </message>
     <message>
         <source>Bits per Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>بت لكل عيّنة:</translation>
     </message>
     <message>
         <source>Channels:</source>
-        <translation type="unfinished"></translation>
+        <translation>القنوات:</translation>
     </message>
     <message>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>الجودة:</translation>
     </message>
     <message>
         <source>Copy meta tags (id3) from source</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ البيانات الوصفية (ID3) من المصدر</translation>
     </message>
     <message>
         <source>Copy image files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ ملفات الصور من المصدر</translation>
     </message>
     <message>
         <source>Copy text files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ الملفات النصية من المصدر</translation>
     </message>
     <message>
         <source>Copy entire non-converted content from source</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ كل المحتوى غير المحوَّل من المصدر</translation>
     </message>
     <message>
         <source>Preserve folder structure of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>الحفاظ على بنية مجلدات المصدر</translation>
     </message>
     <message>
         <source>Trim silence from start and end</source>
-        <translation type="unfinished"></translation>
+        <translation>قص الصمت من البداية والنهاية</translation>
     </message>
     <message>
         <source>Play sound</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل صوت تنبيه</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح مجلد الوجهة</translation>
     </message>
     <message>
         <source>Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح القائمة</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>عام</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>عمليات</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>يفتح مجلد الوجهة في مدير الملفات</translation>
     </message>
     <message>
         <source>Sample Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل أخذ العينات:</translation>
     </message>
     <message>
         <source>Source / Destination Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات المصدر والوجهة</translation>
     </message>
     <message>
         <source>After Conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>بعد التحويل</translation>
     </message>
     <message>
         <source>WAV Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات WAV</translation>
     </message>
     <message>
         <source>M4A Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات M4A</translation>
     </message>
     <message>
         <source>MP3 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات MP3</translation>
     </message>
     <message>
         <source>Unknown Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>إعدادات غير معروفة</translation>
     </message>
     <message>
         <source>Volume level normalization (in %)</source>
-        <translation type="unfinished"></translation>
+        <translation>تسوية مستوى الصوت (%)</translation>
     </message>
     <message>
         <source>Level in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>المستوى بالنسبة المئوية</translation>
     </message>
     <message>
         <source>Fade In &amp;&amp; Out (in seconds)</source>
         <extracomment>The ampersand is doubled to be shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>الظهور والتلاشي التدريجي (بالثواني)</translation>
     </message>
 </context>
 <context>
@@ -211,54 +211,54 @@
     <message>
         <source> Batch Process</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – معالجة مجمّعة</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>One or more errors have occured!</source>
-        <translation type="unfinished"></translation>
+        <translation>حدث خطأ واحد أو أكثر!</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>استئناف</translation>
     </message>
 </context>
 <context>
     <name>BatchWorker</name>
     <message>
         <source>COPYING IMAGE FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ نسخ ملفات الصور</translation>
     </message>
     <message>
         <source>COPYING TEXT FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ نسخ الملفات النصية</translation>
     </message>
     <message>
         <source>COPYING NON-CONVERTED CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ نسخ المحتوى غير المحوَّل</translation>
     </message>
     <message>
         <source>ANALYZING</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحليل</translation>
     </message>
     <message>
         <source>Can not convert, because the duration is to long. Please reduce the conversion sample rate and try again: </source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر التحويل لأن المدة طويلة جدًا. يُرجى خفض معدل أخذ العينات والمحاولة مجددًا: </translation>
     </message>
     <message>
         <source>Can not convert: </source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر التحويل: </translation>
     </message>
 </context>
 <context>
@@ -266,156 +266,158 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أدنى         أقصى</translation>
     </message>
 </context>
 <context>
     <name>ErrorsDialog</name>
     <message>
         <source>ERRORS LOG</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الأخطاء</translation>
     </message>
     <message>
         <source>Errors of the conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>أخطاء التحويل</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق (&amp;O)</translation>
     </message>
 </context>
 <context>
     <name>FadeWidget</name>
     <message>
         <source>Length of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة الظهور التدريجي</translation>
     </message>
     <message>
         <source>Length of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة التلاشي التدريجي</translation>
     </message>
     <message>
         <source>Longer fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>إطالة الظهور التدريجي</translation>
     </message>
     <message>
         <source>Longer fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>إطالة التلاشي التدريجي</translation>
     </message>
     <message>
         <source>Shorter fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>تقصير الظهور التدريجي</translation>
     </message>
     <message>
         <source>Shorter fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>تقصير التلاشي التدريجي</translation>
     </message>
 </context>
 <context>
     <name>GeneralOutput</name>
     <message>
         <source>Settings error, can not create: </source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ في الإعدادات، يتعذّر إنشاء: </translation>
     </message>
     <message>
         <source>
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Click to open the folder with audio/video files</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر لفتح مجلد ملفات الصوت/الفيديو</translation>
     </message>
     <message>
         <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;&lt;center&gt;أفلت ملفات الصوت/الفيديو&lt;br&gt;والمجلدات هنا&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Change destination folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير مجلد الوجهة…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة تعيين</translation>
     </message>
     <message>
         <source>Destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد الوجهة</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>يفتح مجلد الوجهة في مدير الملفات</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح مجلد الوجهة</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation type="unfinished"></translation>
+        <translation>الوجهة:</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>المقاطع الصوتية</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>تحويل</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>Set destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>تعيين مجلد الوجهة</translation>
     </message>
     <message>
         <source>Files with unreadable names were left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تخطي ملفات ذات أسماء غير مقروءة: %1</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ</translation>
     </message>
     <message>
         <source>Can not access the destination folder.
 Please verify the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتعذّر الوصول إلى مجلد الوجهة.
+يُرجى التحقق من الوجهة.</translation>
     </message>
     <message>
         <source>WAITING FOR THE PREVIOUS CONVERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>في انتظار انتهاء التحويل السابق</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع التشغيل</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة من القائمة</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>تشغيل أو إيقاف مؤقت</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Finishing the tags of the converted files…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ استكمال البيانات الوصفية للملفات المحوَّلة…</translation>
     </message>
 </context>
 </TS>

@@ -5,205 +5,205 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>320 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbps</translation>
     </message>
     <message>
         <source>256 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbps</translation>
     </message>
     <message>
         <source>224 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>224 kbps</translation>
     </message>
     <message>
         <source>192 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbps</translation>
     </message>
     <message>
         <source>160 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbps</translation>
     </message>
     <message>
         <source>128 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbps</translation>
     </message>
     <message>
         <source>112 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>112 kbps</translation>
     </message>
     <message>
         <source>96 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbps</translation>
     </message>
     <message>
         <source>80 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>80 kbps</translation>
     </message>
     <message>
         <source>64 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbps</translation>
     </message>
     <message>
         <source>56 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>56 kbps</translation>
     </message>
     <message>
         <source>48 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>48 kbps</translation>
     </message>
     <message>
         <source>40 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>40 kbps</translation>
     </message>
     <message>
         <source>32 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>32 kbps</translation>
     </message>
     <message>
         <source>24 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>24 kbps</translation>
     </message>
     <message>
         <source>16 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>16 kbps</translation>
     </message>
     <message>
         <source> Settings</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Configuración</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>1 (Mono)</source>
-        <translation type="unfinished"></translation>
+        <translation>1 (mono)</translation>
     </message>
     <message>
         <source>2 (Stereo)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 (estéreo)</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Baja</translation>
     </message>
     <message>
         <source>BitRate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de bits</translation>
     </message>
     <message>
         <source>Bits per Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits por muestra:</translation>
     </message>
     <message>
         <source>Channels:</source>
-        <translation type="unfinished"></translation>
+        <translation>Canales:</translation>
     </message>
     <message>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad:</translation>
     </message>
     <message>
         <source>Copy meta tags (id3) from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar los metadatos (ID3) del origen</translation>
     </message>
     <message>
         <source>Copy image files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar los archivos de imagen del origen</translation>
     </message>
     <message>
         <source>Copy text files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar los archivos de texto del origen</translation>
     </message>
     <message>
         <source>Copy entire non-converted content from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar todo el contenido no convertido del origen</translation>
     </message>
     <message>
         <source>Preserve folder structure of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar la estructura de carpetas del origen</translation>
     </message>
     <message>
         <source>Trim silence from start and end</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar el silencio al principio y al final</translation>
     </message>
     <message>
         <source>Play sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir un sonido</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la carpeta de destino</translation>
     </message>
     <message>
         <source>Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar la lista</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operaciones</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre la carpeta de destino en el gestor de archivos</translation>
     </message>
     <message>
         <source>Sample Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia de muestreo:</translation>
     </message>
     <message>
         <source>Source / Destination Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen y destino</translation>
     </message>
     <message>
         <source>After Conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Después de la conversión</translation>
     </message>
     <message>
         <source>WAV Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de WAV</translation>
     </message>
     <message>
         <source>M4A Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de M4A</translation>
     </message>
     <message>
         <source>MP3 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de MP3</translation>
     </message>
     <message>
         <source>Unknown Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración desconocida</translation>
     </message>
     <message>
         <source>Volume level normalization (in %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalización del volumen (en %)</translation>
     </message>
     <message>
         <source>Level in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel en porcentaje</translation>
     </message>
     <message>
         <source>Fade In &amp;&amp; Out (in seconds)</source>
         <extracomment>The ampersand is doubled to be shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fundido de entrada y salida (en segundos)</translation>
     </message>
 </context>
 <context>
@@ -211,54 +211,54 @@
     <message>
         <source> Batch Process</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Proceso por lotes</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>One or more errors have occured!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se han producido uno o más errores!</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar</translation>
     </message>
 </context>
 <context>
     <name>BatchWorker</name>
     <message>
         <source>COPYING IMAGE FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIANDO ARCHIVOS DE IMAGEN</translation>
     </message>
     <message>
         <source>COPYING TEXT FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIANDO ARCHIVOS DE TEXTO</translation>
     </message>
     <message>
         <source>COPYING NON-CONVERTED CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIANDO CONTENIDO NO CONVERTIDO</translation>
     </message>
     <message>
         <source>ANALYZING</source>
-        <translation type="unfinished"></translation>
+        <translation>ANALIZANDO</translation>
     </message>
     <message>
         <source>Can not convert, because the duration is to long. Please reduce the conversion sample rate and try again: </source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede convertir porque la duración es excesiva. Reduzca la frecuencia de muestreo e inténtelo de nuevo: </translation>
     </message>
     <message>
         <source>Can not convert: </source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede convertir: </translation>
     </message>
 </context>
 <context>
@@ -266,156 +266,158 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>mín         máx</translation>
     </message>
 </context>
 <context>
     <name>ErrorsDialog</name>
     <message>
         <source>ERRORS LOG</source>
-        <translation type="unfinished"></translation>
+        <translation>REGISTRO DE ERRORES</translation>
     </message>
     <message>
         <source>Errors of the conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Errores de conversión</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceptar</translation>
     </message>
 </context>
 <context>
     <name>FadeWidget</name>
     <message>
         <source>Length of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración del fundido de entrada</translation>
     </message>
     <message>
         <source>Length of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración del fundido de salida</translation>
     </message>
     <message>
         <source>Longer fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Alargar el fundido de entrada</translation>
     </message>
     <message>
         <source>Longer fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Alargar el fundido de salida</translation>
     </message>
     <message>
         <source>Shorter fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Acortar el fundido de entrada</translation>
     </message>
     <message>
         <source>Shorter fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Acortar el fundido de salida</translation>
     </message>
 </context>
 <context>
     <name>GeneralOutput</name>
     <message>
         <source>Settings error, can not create: </source>
-        <translation type="unfinished"></translation>
+        <translation>Error de configuración, no se puede crear: </translation>
     </message>
     <message>
         <source>
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Click to open the folder with audio/video files</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta con audio/vídeo</translation>
     </message>
     <message>
         <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;&lt;center&gt;Suelte aquí los archivos de audio/vídeo&lt;br&gt;y las carpetas&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Change destination folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar la carpeta de destino…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de destino</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre la carpeta de destino en el gestor de archivos</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la carpeta de destino</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino:</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Set destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la carpeta de destino</translation>
     </message>
     <message>
         <source>Files with unreadable names were left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han omitido archivos con nombres ilegibles: %1</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Can not access the destination folder.
 Please verify the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede acceder a la carpeta de destino.
+Compruebe el destino.</translation>
     </message>
     <message>
         <source>WAITING FOR THE PREVIOUS CONVERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>ESPERANDO A LA CONVERSIÓN ANTERIOR</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Reproducir o pausar</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Finishing the tags of the converted files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando los metadatos de los archivos convertidos…</translation>
     </message>
 </context>
 </TS>

@@ -5,205 +5,205 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>320 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>256 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>224 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>224 kbit/s</translation>
     </message>
     <message>
         <source>192 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>160 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>128 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>112 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>112 kbit/s</translation>
     </message>
     <message>
         <source>96 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>80 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>80 kbit/s</translation>
     </message>
     <message>
         <source>64 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>56 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>56 kbit/s</translation>
     </message>
     <message>
         <source>48 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>48 kbit/s</translation>
     </message>
     <message>
         <source>40 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>40 kbit/s</translation>
     </message>
     <message>
         <source>32 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>32 kbit/s</translation>
     </message>
     <message>
         <source>24 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>24 kbit/s</translation>
     </message>
     <message>
         <source>16 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>16 kbit/s</translation>
     </message>
     <message>
         <source> Settings</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Paramètres</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>1 (Mono)</source>
-        <translation type="unfinished"></translation>
+        <translation>1 (mono)</translation>
     </message>
     <message>
         <source>2 (Stereo)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 (stéréo)</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Élevée</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Basse</translation>
     </message>
     <message>
         <source>BitRate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit binaire</translation>
     </message>
     <message>
         <source>Bits per Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits par échantillon&#xa0;:</translation>
     </message>
     <message>
         <source>Channels:</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux&#xa0;:</translation>
     </message>
     <message>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité&#xa0;:</translation>
     </message>
     <message>
         <source>Copy meta tags (id3) from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les métadonnées (ID3) de la source</translation>
     </message>
     <message>
         <source>Copy image files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les fichiers image de la source</translation>
     </message>
     <message>
         <source>Copy text files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les fichiers texte de la source</translation>
     </message>
     <message>
         <source>Copy entire non-converted content from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier tout le contenu non converti de la source</translation>
     </message>
     <message>
         <source>Preserve folder structure of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver l’arborescence des dossiers source</translation>
     </message>
     <message>
         <source>Trim silence from start and end</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les silences au début et à la fin</translation>
     </message>
     <message>
         <source>Play sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Émettre un son</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier de destination</translation>
     </message>
     <message>
         <source>Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider la liste</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Opérations</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre le dossier de destination dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>Sample Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence d’échantillonnage&#xa0;:</translation>
     </message>
     <message>
         <source>Source / Destination Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Source et destination</translation>
     </message>
     <message>
         <source>After Conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Après la conversion</translation>
     </message>
     <message>
         <source>WAV Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres WAV</translation>
     </message>
     <message>
         <source>M4A Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres M4A</translation>
     </message>
     <message>
         <source>MP3 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres MP3</translation>
     </message>
     <message>
         <source>Unknown Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres inconnus</translation>
     </message>
     <message>
         <source>Volume level normalization (in %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalisation du volume (en %)</translation>
     </message>
     <message>
         <source>Level in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau en pour cent</translation>
     </message>
     <message>
         <source>Fade In &amp;&amp; Out (in seconds)</source>
         <extracomment>The ampersand is doubled to be shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Fondus d’entrée et de sortie (en secondes)</translation>
     </message>
 </context>
 <context>
@@ -211,54 +211,54 @@
     <message>
         <source> Batch Process</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Traitement par lots</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>One or more errors have occured!</source>
-        <translation type="unfinished"></translation>
+        <translation>Des erreurs se sont produites&#xa0;!</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
 </context>
 <context>
     <name>BatchWorker</name>
     <message>
         <source>COPYING IMAGE FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIE DES FICHIERS IMAGE</translation>
     </message>
     <message>
         <source>COPYING TEXT FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIE DES FICHIERS TEXTE</translation>
     </message>
     <message>
         <source>COPYING NON-CONVERTED CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIE DU CONTENU NON CONVERTI</translation>
     </message>
     <message>
         <source>ANALYZING</source>
-        <translation type="unfinished"></translation>
+        <translation>ANALYSE</translation>
     </message>
     <message>
         <source>Can not convert, because the duration is to long. Please reduce the conversion sample rate and try again: </source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion impossible&#xa0;: la durée est trop longue. Réduisez la fréquence d’échantillonnage et réessayez&#xa0;: </translation>
     </message>
     <message>
         <source>Can not convert: </source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion impossible&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -266,156 +266,158 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>min         max</translation>
     </message>
 </context>
 <context>
     <name>ErrorsDialog</name>
     <message>
         <source>ERRORS LOG</source>
-        <translation type="unfinished"></translation>
+        <translation>JOURNAL DES ERREURS</translation>
     </message>
     <message>
         <source>Errors of the conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs de conversion</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
     <name>FadeWidget</name>
     <message>
         <source>Length of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée du fondu d’entrée</translation>
     </message>
     <message>
         <source>Length of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée du fondu de sortie</translation>
     </message>
     <message>
         <source>Longer fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Allonger le fondu d’entrée</translation>
     </message>
     <message>
         <source>Longer fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Allonger le fondu de sortie</translation>
     </message>
     <message>
         <source>Shorter fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcir le fondu d’entrée</translation>
     </message>
     <message>
         <source>Shorter fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Raccourcir le fondu de sortie</translation>
     </message>
 </context>
 <context>
     <name>GeneralOutput</name>
     <message>
         <source>Settings error, can not create: </source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de paramètres, impossible de créer&#xa0;: </translation>
     </message>
     <message>
         <source>
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Click to open the folder with audio/video files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier audio/vidéo</translation>
     </message>
     <message>
         <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;&lt;center&gt;Déposez ici les fichiers audio/vidéo&lt;br&gt;et les dossiers&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Change destination folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de dossier de destination…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de destination</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre le dossier de destination dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier de destination</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation type="unfinished"></translation>
+        <translation>Destination&#xa0;:</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistes</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Set destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier de destination</translation>
     </message>
     <message>
         <source>Files with unreadable names were left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers ignorés car leur nom est illisible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Can not access the destination folder.
 Please verify the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’accéder au dossier de destination.
+Veuillez vérifier la destination.</translation>
     </message>
     <message>
         <source>WAITING FOR THE PREVIOUS CONVERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>EN ATTENTE DE LA CONVERSION PRÉCÉDENTE</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Lire ou mettre en pause</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Finishing the tags of the converted files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation des métadonnées des fichiers convertis…</translation>
     </message>
 </context>
 </TS>

@@ -5,205 +5,205 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>320 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbps</translation>
     </message>
     <message>
         <source>256 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbps</translation>
     </message>
     <message>
         <source>224 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>224 kbps</translation>
     </message>
     <message>
         <source>192 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbps</translation>
     </message>
     <message>
         <source>160 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbps</translation>
     </message>
     <message>
         <source>128 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbps</translation>
     </message>
     <message>
         <source>112 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>112 kbps</translation>
     </message>
     <message>
         <source>96 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbps</translation>
     </message>
     <message>
         <source>80 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>80 kbps</translation>
     </message>
     <message>
         <source>64 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbps</translation>
     </message>
     <message>
         <source>56 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>56 kbps</translation>
     </message>
     <message>
         <source>48 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>48 kbps</translation>
     </message>
     <message>
         <source>40 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>40 kbps</translation>
     </message>
     <message>
         <source>32 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>32 kbps</translation>
     </message>
     <message>
         <source>24 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>24 kbps</translation>
     </message>
     <message>
         <source>16 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>16 kbps</translation>
     </message>
     <message>
         <source> Settings</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – सेटिंग</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ठीक है</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>रद्द करें</translation>
     </message>
     <message>
         <source>1 (Mono)</source>
-        <translation type="unfinished"></translation>
+        <translation>1 (मोनो)</translation>
     </message>
     <message>
         <source>2 (Stereo)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 (स्टीरियो)</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>उच्च</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>मध्यम</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>निम्न</translation>
     </message>
     <message>
         <source>BitRate</source>
-        <translation type="unfinished"></translation>
+        <translation>बिट रेट</translation>
     </message>
     <message>
         <source>Bits per Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>बिट प्रति सैंपल:</translation>
     </message>
     <message>
         <source>Channels:</source>
-        <translation type="unfinished"></translation>
+        <translation>चैनल:</translation>
     </message>
     <message>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>गुणवत्ता:</translation>
     </message>
     <message>
         <source>Copy meta tags (id3) from source</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत के मेटा टैग (ID3) कॉपी करें</translation>
     </message>
     <message>
         <source>Copy image files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत की चित्र फ़ाइलें कॉपी करें</translation>
     </message>
     <message>
         <source>Copy text files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत की टेक्स्ट फ़ाइलें कॉपी करें</translation>
     </message>
     <message>
         <source>Copy entire non-converted content from source</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत की बाकी सारी सामग्री भी कॉपी करें</translation>
     </message>
     <message>
         <source>Preserve folder structure of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत की फ़ोल्डर संरचना बनाए रखें</translation>
     </message>
     <message>
         <source>Trim silence from start and end</source>
-        <translation type="unfinished"></translation>
+        <translation>शुरुआत और अंत की ख़ामोशी हटाएँ</translation>
     </message>
     <message>
         <source>Play sound</source>
-        <translation type="unfinished"></translation>
+        <translation>ध्वनि बजाएँ</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर खोलें</translation>
     </message>
     <message>
         <source>Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>सूची खाली करें</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>सामान्य</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>प्रोसेसिंग</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर को फ़ाइल प्रबंधक में खोलता है</translation>
     </message>
     <message>
         <source>Sample Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>सैंपल रेट:</translation>
     </message>
     <message>
         <source>Source / Destination Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>स्रोत और गंतव्य की सेटिंग</translation>
     </message>
     <message>
         <source>After Conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>रूपांतरण के बाद</translation>
     </message>
     <message>
         <source>WAV Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV सेटिंग</translation>
     </message>
     <message>
         <source>M4A Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A सेटिंग</translation>
     </message>
     <message>
         <source>MP3 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3 सेटिंग</translation>
     </message>
     <message>
         <source>Unknown Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>अज्ञात सेटिंग</translation>
     </message>
     <message>
         <source>Volume level normalization (in %)</source>
-        <translation type="unfinished"></translation>
+        <translation>वॉल्यूम नॉर्मलाइज़ेशन (% में)</translation>
     </message>
     <message>
         <source>Level in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>स्तर, प्रतिशत में</translation>
     </message>
     <message>
         <source>Fade In &amp;&amp; Out (in seconds)</source>
         <extracomment>The ampersand is doubled to be shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-इन और फ़ेड-आउट (सेकंड में)</translation>
     </message>
 </context>
 <context>
@@ -211,54 +211,54 @@
     <message>
         <source> Batch Process</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – बैच प्रोसेसिंग</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>विराम</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>रोकें</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>बंद करें</translation>
     </message>
     <message>
         <source>One or more errors have occured!</source>
-        <translation type="unfinished"></translation>
+        <translation>एक या अधिक त्रुटियाँ हुई हैं!</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>फिर शुरू करें</translation>
     </message>
 </context>
 <context>
     <name>BatchWorker</name>
     <message>
         <source>COPYING IMAGE FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>चित्र फ़ाइलें कॉपी हो रही हैं</translation>
     </message>
     <message>
         <source>COPYING TEXT FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>टेक्स्ट फ़ाइलें कॉपी हो रही हैं</translation>
     </message>
     <message>
         <source>COPYING NON-CONVERTED CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>बाकी सामग्री कॉपी हो रही है</translation>
     </message>
     <message>
         <source>ANALYZING</source>
-        <translation type="unfinished"></translation>
+        <translation>विश्लेषण हो रहा है</translation>
     </message>
     <message>
         <source>Can not convert, because the duration is to long. Please reduce the conversion sample rate and try again: </source>
-        <translation type="unfinished"></translation>
+        <translation>अवधि बहुत लंबी होने के कारण रूपांतरण नहीं हो सकता। कृपया सैंपल रेट घटाकर फिर कोशिश करें: </translation>
     </message>
     <message>
         <source>Can not convert: </source>
-        <translation type="unfinished"></translation>
+        <translation>रूपांतरण नहीं हो सकता: </translation>
     </message>
 </context>
 <context>
@@ -266,156 +266,158 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>न्यून         अधिक</translation>
     </message>
 </context>
 <context>
     <name>ErrorsDialog</name>
     <message>
         <source>ERRORS LOG</source>
-        <translation type="unfinished"></translation>
+        <translation>त्रुटि लॉग</translation>
     </message>
     <message>
         <source>Errors of the conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>रूपांतरण की त्रुटियाँ</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ठीक है (&amp;O)</translation>
     </message>
 </context>
 <context>
     <name>FadeWidget</name>
     <message>
         <source>Length of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-इन की लंबाई</translation>
     </message>
     <message>
         <source>Length of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-आउट की लंबाई</translation>
     </message>
     <message>
         <source>Longer fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-इन बढ़ाएँ</translation>
     </message>
     <message>
         <source>Longer fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-आउट बढ़ाएँ</translation>
     </message>
     <message>
         <source>Shorter fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-इन घटाएँ</translation>
     </message>
     <message>
         <source>Shorter fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ेड-आउट घटाएँ</translation>
     </message>
 </context>
 <context>
     <name>GeneralOutput</name>
     <message>
         <source>Settings error, can not create: </source>
-        <translation type="unfinished"></translation>
+        <translation>सेटिंग में त्रुटि, नहीं बनाया जा सका: </translation>
     </message>
     <message>
         <source>
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Click to open the folder with audio/video files</source>
-        <translation type="unfinished"></translation>
+        <translation>ऑडियो/वीडियो फ़ोल्डर खोलें</translation>
     </message>
     <message>
         <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;&lt;center&gt;ऑडियो/वीडियो फ़ाइलें&lt;br&gt;और फ़ोल्डर यहाँ छोड़ें&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Change destination folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर बदलें…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>रीसेट करें</translation>
     </message>
     <message>
         <source>Destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर को फ़ाइल प्रबंधक में खोलता है</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर खोलें</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य:</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>ट्रैक</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>रूपांतरित करें</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>सेटिंग</translation>
     </message>
     <message>
         <source>Set destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर चुनें</translation>
     </message>
     <message>
         <source>Files with unreadable names were left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>जिन फ़ाइलों के नाम पढ़े नहीं जा सके, वे छोड़ दी गईं: %1</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>त्रुटि</translation>
     </message>
     <message>
         <source>Can not access the destination folder.
 Please verify the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>गंतव्य फ़ोल्डर तक पहुँचा नहीं जा सका।
+कृपया गंतव्य जाँचें।</translation>
     </message>
     <message>
         <source>WAITING FOR THE PREVIOUS CONVERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>पिछले रूपांतरण के पूरा होने की प्रतीक्षा है</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>प्लेबैक स्थिति</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>रोकें</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>चलाएँ</translation>
     </message>
     <message>
         <source>Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation>सूची से हटाएँ</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>चलाएँ या विराम दें</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Finishing the tags of the converted files…</source>
-        <translation type="unfinished"></translation>
+        <translation>रूपांतरित फ़ाइलों के टैग पूरे किए जा रहे हैं…</translation>
     </message>
 </context>
 </TS>

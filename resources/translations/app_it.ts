@@ -5,205 +5,205 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>320 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>256 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>224 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>224 kbit/s</translation>
     </message>
     <message>
         <source>192 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>160 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>128 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>112 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>112 kbit/s</translation>
     </message>
     <message>
         <source>96 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>80 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>80 kbit/s</translation>
     </message>
     <message>
         <source>64 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>56 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>56 kbit/s</translation>
     </message>
     <message>
         <source>48 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>48 kbit/s</translation>
     </message>
     <message>
         <source>40 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>40 kbit/s</translation>
     </message>
     <message>
         <source>32 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>32 kbit/s</translation>
     </message>
     <message>
         <source>24 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>24 kbit/s</translation>
     </message>
     <message>
         <source>16 kbps</source>
-        <translation type="unfinished"></translation>
+        <translation>16 kbit/s</translation>
     </message>
     <message>
         <source> Settings</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Impostazioni</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>1 (Mono)</source>
-        <translation type="unfinished"></translation>
+        <translation>1 (mono)</translation>
     </message>
     <message>
         <source>2 (Stereo)</source>
-        <translation type="unfinished"></translation>
+        <translation>2 (stereo)</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Bassa</translation>
     </message>
     <message>
         <source>BitRate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <source>Bits per Sample:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit per campione:</translation>
     </message>
     <message>
         <source>Channels:</source>
-        <translation type="unfinished"></translation>
+        <translation>Canali:</translation>
     </message>
     <message>
         <source>Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualità:</translation>
     </message>
     <message>
         <source>Copy meta tags (id3) from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia i metadati (ID3) dall’origine</translation>
     </message>
     <message>
         <source>Copy image files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia i file immagine dall’origine</translation>
     </message>
     <message>
         <source>Copy text files from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia i file di testo dall’origine</translation>
     </message>
     <message>
         <source>Copy entire non-converted content from source</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia dall’origine tutto il contenuto non convertito</translation>
     </message>
     <message>
         <source>Preserve folder structure of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni la struttura delle cartelle di origine</translation>
     </message>
     <message>
         <source>Trim silence from start and end</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina il silenzio all’inizio e alla fine</translation>
     </message>
     <message>
         <source>Play sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci un suono</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la cartella di destinazione</translation>
     </message>
     <message>
         <source>Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Svuota l’elenco</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Generale</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operazioni</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre la cartella di destinazione nel gestore di file</translation>
     </message>
     <message>
         <source>Sample Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza di campionamento:</translation>
     </message>
     <message>
         <source>Source / Destination Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Origine e destinazione</translation>
     </message>
     <message>
         <source>After Conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Dopo la conversione</translation>
     </message>
     <message>
         <source>WAV Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni WAV</translation>
     </message>
     <message>
         <source>M4A Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni M4A</translation>
     </message>
     <message>
         <source>MP3 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni MP3</translation>
     </message>
     <message>
         <source>Unknown Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni sconosciute</translation>
     </message>
     <message>
         <source>Volume level normalization (in %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Normalizzazione del volume (in %)</translation>
     </message>
     <message>
         <source>Level in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Livello in percentuale</translation>
     </message>
     <message>
         <source>Fade In &amp;&amp; Out (in seconds)</source>
         <extracomment>The ampersand is doubled to be shown.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dissolvenza in entrata e in uscita (in secondi)</translation>
     </message>
 </context>
 <context>
@@ -211,54 +211,54 @@
     <message>
         <source> Batch Process</source>
         <extracomment>Follows the name of the application in the title of the window; keep the leading blank.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> – Elaborazione in serie</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>One or more errors have occured!</source>
-        <translation type="unfinished"></translation>
+        <translation>Si sono verificati uno o più errori!</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprendi</translation>
     </message>
 </context>
 <context>
     <name>BatchWorker</name>
     <message>
         <source>COPYING IMAGE FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIA DEI FILE IMMAGINE</translation>
     </message>
     <message>
         <source>COPYING TEXT FILES</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIA DEI FILE DI TESTO</translation>
     </message>
     <message>
         <source>COPYING NON-CONVERTED CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>COPIA DEL CONTENUTO NON CONVERTITO</translation>
     </message>
     <message>
         <source>ANALYZING</source>
-        <translation type="unfinished"></translation>
+        <translation>ANALISI</translation>
     </message>
     <message>
         <source>Can not convert, because the duration is to long. Please reduce the conversion sample rate and try again: </source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile convertire: la durata è eccessiva. Riduci la frequenza di campionamento e riprova: </translation>
     </message>
     <message>
         <source>Can not convert: </source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile convertire: </translation>
     </message>
 </context>
 <context>
@@ -266,156 +266,158 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>min         max</translation>
     </message>
 </context>
 <context>
     <name>ErrorsDialog</name>
     <message>
         <source>ERRORS LOG</source>
-        <translation type="unfinished"></translation>
+        <translation>REGISTRO DEGLI ERRORI</translation>
     </message>
     <message>
         <source>Errors of the conversion</source>
-        <translation type="unfinished"></translation>
+        <translation>Errori di conversione</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
     <name>FadeWidget</name>
     <message>
         <source>Length of the fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Durata della dissolvenza in entrata</translation>
     </message>
     <message>
         <source>Length of the fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Durata della dissolvenza in uscita</translation>
     </message>
     <message>
         <source>Longer fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Allunga la dissolvenza in entrata</translation>
     </message>
     <message>
         <source>Longer fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Allunga la dissolvenza in uscita</translation>
     </message>
     <message>
         <source>Shorter fade-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Accorcia la dissolvenza in entrata</translation>
     </message>
     <message>
         <source>Shorter fade-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Accorcia la dissolvenza in uscita</translation>
     </message>
 </context>
 <context>
     <name>GeneralOutput</name>
     <message>
         <source>Settings error, can not create: </source>
-        <translation type="unfinished"></translation>
+        <translation>Errore nelle impostazioni, impossibile creare: </translation>
     </message>
     <message>
         <source>
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Click to open the folder with audio/video files</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri una cartella con file audio/video</translation>
     </message>
     <message>
         <source>&lt;H2&gt;&lt;center&gt;Drop the audio/video files&lt;br&gt;and folders here&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;&lt;center&gt;Trascina qui i file audio/video&lt;br&gt;e le cartelle&lt;br&gt;&lt;bold&gt;+&lt;/bold&gt;&lt;/center&gt;&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Change destination folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia cartella di destinazione…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella di destinazione</translation>
     </message>
     <message>
         <source>Opens the destination folder in finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre la cartella di destinazione nel gestore di file</translation>
     </message>
     <message>
         <source>Open the destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la cartella di destinazione</translation>
     </message>
     <message>
         <source>Destination:</source>
-        <translation type="unfinished"></translation>
+        <translation>Destinazione:</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Brani</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Converti</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Set destination folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli la cartella di destinazione</translation>
     </message>
     <message>
         <source>Files with unreadable names were left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>File ignorati perché il nome è illeggibile: %1</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore</translation>
     </message>
     <message>
         <source>Can not access the destination folder.
 Please verify the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile accedere alla cartella di destinazione.
+Verifica la destinazione.</translation>
     </message>
     <message>
         <source>WAITING FOR THE PREVIOUS CONVERSION</source>
-        <translation type="unfinished"></translation>
+        <translation>IN ATTESA DELLA CONVERSIONE PRECEDENTE</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci</translation>
     </message>
     <message>
         <source>Remove from list</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi dall’elenco</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Riproduci o metti in pausa</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Finishing the tags of the converted files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Completamento dei metadati dei file convertiti…</translation>
     </message>
 </context>
 </TS>

@@ -5,586 +5,586 @@
     <name>AppUpdateDialog</name>
     <message>
         <source> Updates Notification</source>
-        <translation type="unfinished"></translation>
+        <translation> – Aggiornamenti</translation>
     </message>
     <message>
         <source>Check for updates on start</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca aggiornamenti all’avvio</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
 </context>
 <context>
     <name>QMMultiMedia::MediaSearchDialog</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annulla</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>
     <message>
         <source> Info</source>
-        <translation type="unfinished"></translation>
+        <translation> – Informazioni</translation>
     </message>
     <message>
         <source>About the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni sul programma</translation>
     </message>
     <message>
         <source>Legal notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Note legali</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Legal Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Note legali</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Indietro</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;Questa applicazione utilizza:&lt;/H3&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;The newer version </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;La nuova versione </translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> di </translation>
     </message>
     <message>
         <source> is available.&lt;br&gt;Get the newest version?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation> è disponibile.&lt;br&gt;Vuoi scaricare la versione più recente?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the app web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Stai usando la versione più recente.&lt;br&gt;Aprire comunque la pagina web dell’applicazione?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppCatalog</name>
     <message>
         <source>Calderin WAV - turns audio and video files into WAV files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin WAV – converte file audio e video in file WAV</translation>
     </message>
     <message>
         <source>Calderin M4A - turns audio and video files into M4A files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin M4A – converte file audio e video in file M4A</translation>
     </message>
     <message>
         <source>Calderin MP3 - turns audio and video files into MP3 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MP3 – converte file audio e video in file MP3</translation>
     </message>
     <message>
         <source>Calderin Recorder - records any input of the computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Recorder – registra ogni ingresso del computer</translation>
     </message>
     <message>
         <source>Calderin Timecode - reads LTC timecode from audio and video</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Timecode – legge il timecode LTC da audio e video</translation>
     </message>
     <message>
         <source>Calderin MIDI - shows, plays and edits MIDI files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MIDI – mostra, suona e modifica file MIDI</translation>
     </message>
     <message>
         <source>Calderin Metronome - keeps the beat in any time signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Metronome – tiene il tempo in qualsiasi metro</translation>
     </message>
     <message>
         <source>Calderin Guitar - tuner, chords and scales for the guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Guitar – accordatore, accordi e scale per chitarra</translation>
     </message>
     <message>
         <source>Calderin Bass - tuner and scales for the bass guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Bass – accordatore e scale per basso</translation>
     </message>
     <message>
         <source>Calderin Ukulele - tuner and chords for the ukulele</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Ukulele – accordatore e accordi per ukulele</translation>
     </message>
     <message>
         <source>Calderin Mandolin - tuner and chords for the mandolin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Mandolin – accordatore e accordi per mandolino</translation>
     </message>
     <message>
         <source>Calderin Banjo - tuner and chords for the banjo</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Banjo – accordatore e accordi per banjo</translation>
     </message>
     <message>
         <source>Calderin Balalaika - tuner and chords for the balalaika</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Balalaika – accordatore e accordi per balalaica</translation>
     </message>
     <message>
         <source>Calderin Piano - chords and scales on the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Piano – accordi e scale sulla tastiera</translation>
     </message>
     <message>
         <source>Calderin Violin - tuner and fingering for the violin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Violin – accordatore e diteggiature per violino</translation>
     </message>
     <message>
         <source>Calderin Viewer - leafs through folders of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Viewer – sfoglia le cartelle di immagini</translation>
     </message>
     <message>
         <source>Calderin Notes - puts notes and arrows on pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Notes – aggiunge note e frecce alle immagini</translation>
     </message>
     <message>
         <source>Calderin Cropper - cuts pictures out of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cropper – ritaglia immagini dallo schermo</translation>
     </message>
     <message>
         <source>Calderin Measurer - measures sizes and distances on the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Measurer – misura dimensioni e distanze sullo schermo</translation>
     </message>
     <message>
         <source>Calderin Palette - reduces and tunes the colours of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Palette – riduce e regola i colori delle immagini</translation>
     </message>
     <message>
         <source>Calderin Animation - makes animations of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Animation – crea animazioni dalle immagini</translation>
     </message>
     <message>
         <source>Calderin FTP - moves files to servers and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin FTP – trasferisce file da e verso i server</translation>
     </message>
     <message>
         <source>Calderin Contacts - reads and writes contact cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Contacts – legge e scrive biglietti da visita</translation>
     </message>
     <message>
         <source>Calderin Cipher - locks files with a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cipher – protegge i file con una password</translation>
     </message>
     <message>
         <source>Calderin Style - writes style sheets and tries them out</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Style – scrive e prova fogli di stile</translation>
     </message>
     <message>
         <source>Calderin Minimizer - makes scripts for the web smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Minimizer – riduce le dimensioni degli script web</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
     <message>
         <source>Rate this App</source>
-        <translation type="unfinished"></translation>
+        <translation>Valuta l’app</translation>
     </message>
     <message>
         <source>Intro</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzione</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Condividi</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguici</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre app</translation>
     </message>
     <message>
         <source>Contact Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Contattaci</translation>
     </message>
     <message>
         <source>Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistenza</translation>
     </message>
     <message>
         <source>Check Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca aggiornamenti</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <translation>Informativa sulla privacy</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssDoc</name>
     <message>
         <source>Style sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Foglio di stile</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssEditor</name>
     <message>
         <source>CSS Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor di stile CSS</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aiuto</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operazioni</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva</translation>
     </message>
     <message>
         <source>&amp;SetInfo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imposta informazioni</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;pplica</translation>
     </message>
     <message>
         <source>S&amp;ave As...</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva &amp;con nome…</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;formazioni</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ripristina</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H1&gt;Trascina qui le foto&lt;/H1&gt;</translation>
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic per aprire le foto</translation>
     </message>
     <message>
         <source>Open files</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri file</translation>
     </message>
     <message>
         <source>Open folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri cartella</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpDialog</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
     <message>
         <source>&amp;Always skip intro</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salta sempre l’introduzione</translation>
     </message>
     <message>
         <source>&amp;Watch videos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guarda i video</translation>
     </message>
     <message>
         <source> Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation> – Introduzione</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpViewArea</name>
     <message>
         <source>Slide %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diapositiva %1</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinDialog</name>
     <message>
         <source>Join us</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguici</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinReminderDialog</name>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguici</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinWidget</name>
     <message>
         <source>Follow us and stay informed&lt;br&gt;about our</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguici e resta informato&lt;br&gt;su</translation>
     </message>
     <message>
         <source>1. Important News</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Notizie importanti</translation>
     </message>
     <message>
         <source>2. New APPs</source>
-        <translation type="unfinished"></translation>
+        <translation>2. Nuove app</translation>
     </message>
     <message>
         <source>3. APP Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>3. Aggiornamenti delle app</translation>
     </message>
     <message>
         <source>and more...</source>
-        <translation type="unfinished"></translation>
+        <translation>e altro ancora…</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>&lt;H3&gt;To join us, please &quot;Like&quot; %1 on Facebook.&lt;/H3&gt;Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;Per seguirci, fai clic su “Mi piace” sulla pagina Facebook di %1.&lt;/H3&gt;Grazie!</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MMessageBox</name>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompi</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprova</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignora</translation>
     </message>
     <message>
         <source>YesAll</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì a tutti</translation>
     </message>
     <message>
         <source>NoAll</source>
-        <translation type="unfinished"></translation>
+        <translation>No a tutti</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MoreAppsButton</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoAdsBar</name>
     <message>
         <source>Close the banner</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi il banner</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoMenuBar</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Altro</translation>
     </message>
     <message>
         <source>Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzione</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Condividi</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguici</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre app</translation>
     </message>
     <message>
         <source>Rate App</source>
-        <translation type="unfinished"></translation>
+        <translation>Valuta l’app</translation>
     </message>
     <message>
         <source>App Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu dell’app</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateAppStoreDialog</name>
     <message>
         <source>Rate &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Valuta “%1”</translation>
     </message>
     <message>
         <source>Enjoying &quot;%1&quot; ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ti piace “%1”?</translation>
     </message>
     <message>
         <source>Please rate the app on the App Store.&lt;br&gt;This will help us improve &lt;br&gt;the app&apos;s features in the future.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valuta l’app sull’App Store.&lt;br&gt;Ci aiuterai così&lt;br&gt;a migliorarla in futuro.</translation>
     </message>
     <message>
         <source>&amp;Rate It Now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valuta ora</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateMailDialog</name>
     <message>
         <source>Feedback about &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Opinioni su “%1”</translation>
     </message>
     <message>
         <source>Please rate it on the app store or send us a quick e-mail&lt;br&gt;and tell us what you didn&apos;t enjoy. &lt;br&gt;Your feedback will help us improve this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valuta l’app sull’App Store o inviaci una breve e-mail&lt;br&gt;per dirci che cosa non ti è piaciuto.&lt;br&gt;La tua opinione ci aiuterà a migliorare l’app.</translation>
     </message>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valuta</translation>
     </message>
     <message>
         <source>&amp;Write email</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scrivi un’e-mail</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderDialog</name>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valuta</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-mail</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderStateDialog</name>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Più tardi</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t ask me again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non chiedere più</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RoundProgress</name>
     <message>
         <source>Overall progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento totale</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellDialog</name>
     <message>
         <source>Share %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Condividi %1</translation>
     </message>
     <message>
         <source>If you like the app&lt;br&gt;please share it with&lt;br&gt;your friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>Se l’app ti piace,&lt;br&gt;condividila con&lt;br&gt;i tuoi amici.&lt;br&gt;Grazie!</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellReminderDialog</name>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Condividi</translation>
     </message>
     <message>
         <source>If you like the app %1,&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>Se l’app %1 ti piace,&lt;br&gt;condividila con i tuoi amici.&lt;br&gt;Grazie!</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellWidget</name>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail</translation>
     </message>
 </context>
 </TS>

@@ -5,586 +5,586 @@
     <name>AppUpdateDialog</name>
     <message>
         <source> Updates Notification</source>
-        <translation type="unfinished"></translation>
+        <translation> - 更新のお知らせ</translation>
     </message>
     <message>
         <source>Check for updates on start</source>
-        <translation type="unfinished"></translation>
+        <translation>起動時に更新を確認する</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
 </context>
 <context>
     <name>QMMultiMedia::MediaSearchDialog</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>
     <message>
         <source> Info</source>
-        <translation type="unfinished"></translation>
+        <translation> - 情報</translation>
     </message>
     <message>
         <source>About the program</source>
-        <translation type="unfinished"></translation>
+        <translation>このプログラムについて</translation>
     </message>
     <message>
         <source>Legal notices</source>
-        <translation type="unfinished"></translation>
+        <translation>法的情報</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Legal Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>法的情報(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>戻る(&amp;B)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;このアプリケーションで使用しているもの:&lt;/H3&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリについて</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;The newer version </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;新しいバージョン </translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> の </translation>
     </message>
     <message>
         <source> is available.&lt;br&gt;Get the newest version?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation> が利用できます。&lt;br&gt;最新バージョンを入手しますか?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the app web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;お使いのバージョンは最新です。&lt;br&gt;アプリの Web ページを開きますか?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppCatalog</name>
     <message>
         <source>Calderin WAV - turns audio and video files into WAV files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin WAV - 音声や動画を WAV ファイルに変換</translation>
     </message>
     <message>
         <source>Calderin M4A - turns audio and video files into M4A files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin M4A - 音声や動画を M4A ファイルに変換</translation>
     </message>
     <message>
         <source>Calderin MP3 - turns audio and video files into MP3 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MP3 - 音声や動画を MP3 ファイルに変換</translation>
     </message>
     <message>
         <source>Calderin Recorder - records any input of the computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Recorder - コンピューターのあらゆる入力を録音</translation>
     </message>
     <message>
         <source>Calderin Timecode - reads LTC timecode from audio and video</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Timecode - 音声や動画から LTC タイムコードを読み取り</translation>
     </message>
     <message>
         <source>Calderin MIDI - shows, plays and edits MIDI files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MIDI - MIDI ファイルの表示、再生、編集</translation>
     </message>
     <message>
         <source>Calderin Metronome - keeps the beat in any time signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Metronome - あらゆる拍子でテンポをキープ</translation>
     </message>
     <message>
         <source>Calderin Guitar - tuner, chords and scales for the guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Guitar - ギター用チューナー、コード、スケール</translation>
     </message>
     <message>
         <source>Calderin Bass - tuner and scales for the bass guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Bass - ベースギター用チューナーとスケール</translation>
     </message>
     <message>
         <source>Calderin Ukulele - tuner and chords for the ukulele</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Ukulele - ウクレレ用チューナーとコード</translation>
     </message>
     <message>
         <source>Calderin Mandolin - tuner and chords for the mandolin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Mandolin - マンドリン用チューナーとコード</translation>
     </message>
     <message>
         <source>Calderin Banjo - tuner and chords for the banjo</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Banjo - バンジョー用チューナーとコード</translation>
     </message>
     <message>
         <source>Calderin Balalaika - tuner and chords for the balalaika</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Balalaika - バラライカ用チューナーとコード</translation>
     </message>
     <message>
         <source>Calderin Piano - chords and scales on the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Piano - 鍵盤で見るコードとスケール</translation>
     </message>
     <message>
         <source>Calderin Violin - tuner and fingering for the violin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Violin - バイオリン用チューナーと運指</translation>
     </message>
     <message>
         <source>Calderin Viewer - leafs through folders of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Viewer - フォルダーの画像を次々に閲覧</translation>
     </message>
     <message>
         <source>Calderin Notes - puts notes and arrows on pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Notes - 画像にメモや矢印を追加</translation>
     </message>
     <message>
         <source>Calderin Cropper - cuts pictures out of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cropper - 画面から画像を切り抜き</translation>
     </message>
     <message>
         <source>Calderin Measurer - measures sizes and distances on the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Measurer - 画面上の大きさと距離を測定</translation>
     </message>
     <message>
         <source>Calderin Palette - reduces and tunes the colours of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Palette - 画像の色を減らして調整</translation>
     </message>
     <message>
         <source>Calderin Animation - makes animations of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Animation - 画像からアニメーションを作成</translation>
     </message>
     <message>
         <source>Calderin FTP - moves files to servers and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin FTP - サーバーとファイルを送受信</translation>
     </message>
     <message>
         <source>Calderin Contacts - reads and writes contact cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Contacts - 連絡先カードの読み書き</translation>
     </message>
     <message>
         <source>Calderin Cipher - locks files with a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cipher - ファイルをパスワードで保護</translation>
     </message>
     <message>
         <source>Calderin Style - writes style sheets and tries them out</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Style - スタイルシートの作成と試用</translation>
     </message>
     <message>
         <source>Calderin Minimizer - makes scripts for the web smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Minimizer - Web 用スクリプトを小さく圧縮</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
     <message>
         <source>Rate this App</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを評価</translation>
     </message>
     <message>
         <source>Intro</source>
-        <translation type="unfinished"></translation>
+        <translation>はじめに</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>共有</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>フォローする</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のアプリ</translation>
     </message>
     <message>
         <source>Contact Us</source>
-        <translation type="unfinished"></translation>
+        <translation>お問い合わせ</translation>
     </message>
     <message>
         <source>Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートページ</translation>
     </message>
     <message>
         <source>Check Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>更新を確認</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <translation>プライバシーポリシー</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリについて</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssDoc</name>
     <message>
         <source>Style sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>スタイルシート</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssEditor</name>
     <message>
         <source>CSS Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>CSS スタイルエディター</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>処理</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>開く(&amp;O)...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;SetInfo</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を設定(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用(&amp;P)</translation>
     </message>
     <message>
         <source>S&amp;ave As...</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を付けて保存(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリについて(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット(&amp;R)</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリについて</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H1&gt;ここに写真をドロップ&lt;/H1&gt;</translation>
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックして写真を開く</translation>
     </message>
     <message>
         <source>Open files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開く</translation>
     </message>
     <message>
         <source>Open folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを開く</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpDialog</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Always skip intro</source>
-        <translation type="unfinished"></translation>
+        <translation>次回から表示しない(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Watch videos</source>
-        <translation type="unfinished"></translation>
+        <translation>動画を見る(&amp;W)</translation>
     </message>
     <message>
         <source> Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation> - はじめに</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpViewArea</name>
     <message>
         <source>Slide %1</source>
-        <translation type="unfinished"></translation>
+        <translation>スライド %1</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinDialog</name>
     <message>
         <source>Join us</source>
-        <translation type="unfinished"></translation>
+        <translation>フォローする</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinReminderDialog</name>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>フォローする</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinWidget</name>
     <message>
         <source>Follow us and stay informed&lt;br&gt;about our</source>
-        <translation type="unfinished"></translation>
+        <translation>フォローして最新情報を&lt;br&gt;お受け取りください</translation>
     </message>
     <message>
         <source>1. Important News</source>
-        <translation type="unfinished"></translation>
+        <translation>1. 重要なお知らせ</translation>
     </message>
     <message>
         <source>2. New APPs</source>
-        <translation type="unfinished"></translation>
+        <translation>2. 新しいアプリ</translation>
     </message>
     <message>
         <source>3. APP Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>3. アプリの更新</translation>
     </message>
     <message>
         <source>and more...</source>
-        <translation type="unfinished"></translation>
+        <translation>その他いろいろ...</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>メール</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>&lt;H3&gt;To join us, please &quot;Like&quot; %1 on Facebook.&lt;/H3&gt;Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;フォローするには、Facebook の %1 のページで「いいね!」を押してください。&lt;/H3&gt;ありがとうございます。</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MMessageBox</name>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>無視</translation>
     </message>
     <message>
         <source>YesAll</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてはい</translation>
     </message>
     <message>
         <source>NoAll</source>
-        <translation type="unfinished"></translation>
+        <translation>すべていいえ</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MoreAppsButton</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoAdsBar</name>
     <message>
         <source>Close the banner</source>
-        <translation type="unfinished"></translation>
+        <translation>バナーを閉じる</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoMenuBar</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation>はじめに</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>共有</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>フォローする</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>その他のアプリ</translation>
     </message>
     <message>
         <source>Rate App</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを評価</translation>
     </message>
     <message>
         <source>App Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリメニュー</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateAppStoreDialog</name>
     <message>
         <source>Rate &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を評価</translation>
     </message>
     <message>
         <source>Enjoying &quot;%1&quot; ?</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はお気に召しましたか?</translation>
     </message>
     <message>
         <source>Please rate the app on the App Store.&lt;br&gt;This will help us improve &lt;br&gt;the app&apos;s features in the future.</source>
-        <translation type="unfinished"></translation>
+        <translation>App Store でこのアプリを評価してください。&lt;br&gt;いただいた評価は、今後の&lt;br&gt;機能の改善に役立てます。</translation>
     </message>
     <message>
         <source>&amp;Rate It Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ評価(&amp;R)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateMailDialog</name>
     <message>
         <source>Feedback about &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」へのご意見</translation>
     </message>
     <message>
         <source>Please rate it on the app store or send us a quick e-mail&lt;br&gt;and tell us what you didn&apos;t enjoy. &lt;br&gt;Your feedback will help us improve this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>App Store で評価していただくか、ご不満な点を&lt;br&gt;メールでお聞かせください。&lt;br&gt;いただいたご意見は、アプリの改善に役立てます。</translation>
     </message>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>評価する(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Write email</source>
-        <translation type="unfinished"></translation>
+        <translation>メールを書く(&amp;W)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderDialog</name>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>評価する(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>メール(&amp;M)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderStateDialog</name>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>後で(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t ask me again</source>
-        <translation type="unfinished"></translation>
+        <translation>今後表示しない(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RoundProgress</name>
     <message>
         <source>Overall progress</source>
-        <translation type="unfinished"></translation>
+        <translation>全体の進行状況</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellDialog</name>
     <message>
         <source>Share %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を共有</translation>
     </message>
     <message>
         <source>If you like the app&lt;br&gt;please share it with&lt;br&gt;your friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリを気に入っていただけましたら、&lt;br&gt;お友だちにも&lt;br&gt;お勧めください。&lt;br&gt;ありがとうございます。</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellReminderDialog</name>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>共有</translation>
     </message>
     <message>
         <source>If you like the app %1,&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を気に入っていただけましたら、&lt;br&gt;お友だちにもお勧めください。&lt;br&gt;ありがとうございます。</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellWidget</name>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>メール</translation>
     </message>
 </context>
 </TS>

@@ -5,586 +5,586 @@
     <name>AppUpdateDialog</name>
     <message>
         <source> Updates Notification</source>
-        <translation type="unfinished"></translation>
+        <translation> - 업데이트 알림</translation>
     </message>
     <message>
         <source>Check for updates on start</source>
-        <translation type="unfinished"></translation>
+        <translation>시작할 때 업데이트 확인</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>예</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>아니요</translation>
     </message>
 </context>
 <context>
     <name>QMMultiMedia::MediaSearchDialog</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>
     <message>
         <source> Info</source>
-        <translation type="unfinished"></translation>
+        <translation> - 정보</translation>
     </message>
     <message>
         <source>About the program</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램 정보</translation>
     </message>
     <message>
         <source>Legal notices</source>
-        <translation type="unfinished"></translation>
+        <translation>법적 고지</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>확인(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Legal Notices</source>
-        <translation type="unfinished"></translation>
+        <translation>법적 고지(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>뒤로(&amp;B)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;이 애플리케이션에 사용된 구성 요소:&lt;/H3&gt;</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;The newer version </source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;새로운 </translation>
     </message>
     <message>
         <source> of </source>
-        <translation type="unfinished"></translation>
+        <translation> 버전의 </translation>
     </message>
     <message>
         <source> is available.&lt;br&gt;Get the newest version?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation> 앱이 나왔습니다.&lt;br&gt;최신 버전을 받으시겠습니까?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the app web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;최신 버전을 사용하고 있습니다.&lt;br&gt;그래도 앱 웹 페이지로 이동하시겠습니까?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppCatalog</name>
     <message>
         <source>Calderin WAV - turns audio and video files into WAV files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin WAV - 오디오와 비디오를 WAV 파일로 변환</translation>
     </message>
     <message>
         <source>Calderin M4A - turns audio and video files into M4A files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin M4A - 오디오와 비디오를 M4A 파일로 변환</translation>
     </message>
     <message>
         <source>Calderin MP3 - turns audio and video files into MP3 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MP3 - 오디오와 비디오를 MP3 파일로 변환</translation>
     </message>
     <message>
         <source>Calderin Recorder - records any input of the computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Recorder - 컴퓨터의 모든 입력을 녹음</translation>
     </message>
     <message>
         <source>Calderin Timecode - reads LTC timecode from audio and video</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Timecode - 오디오와 비디오에서 LTC 타임코드 읽기</translation>
     </message>
     <message>
         <source>Calderin MIDI - shows, plays and edits MIDI files</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin MIDI - MIDI 파일 보기, 재생, 편집</translation>
     </message>
     <message>
         <source>Calderin Metronome - keeps the beat in any time signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Metronome - 어떤 박자에도 정확한 메트로놈</translation>
     </message>
     <message>
         <source>Calderin Guitar - tuner, chords and scales for the guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Guitar - 기타용 튜너, 코드, 스케일</translation>
     </message>
     <message>
         <source>Calderin Bass - tuner and scales for the bass guitar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Bass - 베이스 기타용 튜너와 스케일</translation>
     </message>
     <message>
         <source>Calderin Ukulele - tuner and chords for the ukulele</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Ukulele - 우쿨렐레용 튜너와 코드</translation>
     </message>
     <message>
         <source>Calderin Mandolin - tuner and chords for the mandolin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Mandolin - 만돌린용 튜너와 코드</translation>
     </message>
     <message>
         <source>Calderin Banjo - tuner and chords for the banjo</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Banjo - 밴조용 튜너와 코드</translation>
     </message>
     <message>
         <source>Calderin Balalaika - tuner and chords for the balalaika</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Balalaika - 발랄라이카용 튜너와 코드</translation>
     </message>
     <message>
         <source>Calderin Piano - chords and scales on the keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Piano - 건반으로 보는 코드와 스케일</translation>
     </message>
     <message>
         <source>Calderin Violin - tuner and fingering for the violin</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Violin - 바이올린용 튜너와 운지법</translation>
     </message>
     <message>
         <source>Calderin Viewer - leafs through folders of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Viewer - 폴더의 그림 넘겨 보기</translation>
     </message>
     <message>
         <source>Calderin Notes - puts notes and arrows on pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Notes - 그림에 메모와 화살표 넣기</translation>
     </message>
     <message>
         <source>Calderin Cropper - cuts pictures out of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cropper - 화면에서 그림 잘라 내기</translation>
     </message>
     <message>
         <source>Calderin Measurer - measures sizes and distances on the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Measurer - 화면에서 크기와 거리 재기</translation>
     </message>
     <message>
         <source>Calderin Palette - reduces and tunes the colours of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Palette - 그림의 색상 줄이기와 조정</translation>
     </message>
     <message>
         <source>Calderin Animation - makes animations of pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Animation - 그림으로 애니메이션 만들기</translation>
     </message>
     <message>
         <source>Calderin FTP - moves files to servers and back</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin FTP - 서버와 파일 주고받기</translation>
     </message>
     <message>
         <source>Calderin Contacts - reads and writes contact cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Contacts - 연락처 카드 읽기와 쓰기</translation>
     </message>
     <message>
         <source>Calderin Cipher - locks files with a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Cipher - 암호로 파일 잠그기</translation>
     </message>
     <message>
         <source>Calderin Style - writes style sheets and tries them out</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Style - 스타일시트 작성과 시험</translation>
     </message>
     <message>
         <source>Calderin Minimizer - makes scripts for the web smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderin Minimizer - 웹 스크립트 크기 줄이기</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
     <message>
         <source>Rate this App</source>
-        <translation type="unfinished"></translation>
+        <translation>이 앱 평가</translation>
     </message>
     <message>
         <source>Intro</source>
-        <translation type="unfinished"></translation>
+        <translation>소개</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>공유</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>팔로우하기</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 앱</translation>
     </message>
     <message>
         <source>Contact Us</source>
-        <translation type="unfinished"></translation>
+        <translation>문의하기</translation>
     </message>
     <message>
         <source>Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>지원 페이지</translation>
     </message>
     <message>
         <source>Check Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 확인</translation>
     </message>
     <message>
         <source>Privacy Policy</source>
-        <translation type="unfinished"></translation>
+        <translation>개인정보 처리방침</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssDoc</name>
     <message>
         <source>Style sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>스타일시트</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssEditor</name>
     <message>
         <source>CSS Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>CSS 스타일 편집기</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비됨</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>작업</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>열기(&amp;O)...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>저장(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;SetInfo</source>
-        <translation type="unfinished"></translation>
+        <translation>정보 설정(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>적용(&amp;P)</translation>
     </message>
     <message>
         <source>S&amp;ave As...</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 이름으로 저장(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>초기화(&amp;R)</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H1&gt;여기에 사진을 놓으세요&lt;/H1&gt;</translation>
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>클릭하여 사진 열기</translation>
     </message>
     <message>
         <source>Open files</source>
-        <translation type="unfinished"></translation>
+        <translation>파일 열기</translation>
     </message>
     <message>
         <source>Open folder</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 열기</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpDialog</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Always skip intro</source>
-        <translation type="unfinished"></translation>
+        <translation>소개 항상 건너뛰기(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Watch videos</source>
-        <translation type="unfinished"></translation>
+        <translation>동영상 보기(&amp;W)</translation>
     </message>
     <message>
         <source> Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation> - 소개</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::HelpViewArea</name>
     <message>
         <source>Slide %1</source>
-        <translation type="unfinished"></translation>
+        <translation>슬라이드 %1</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinDialog</name>
     <message>
         <source>Join us</source>
-        <translation type="unfinished"></translation>
+        <translation>팔로우하기</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinReminderDialog</name>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>팔로우하기</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::JoinWidget</name>
     <message>
         <source>Follow us and stay informed&lt;br&gt;about our</source>
-        <translation type="unfinished"></translation>
+        <translation>팔로우하고&lt;br&gt;새 소식을 받아 보세요</translation>
     </message>
     <message>
         <source>1. Important News</source>
-        <translation type="unfinished"></translation>
+        <translation>1. 중요한 소식</translation>
     </message>
     <message>
         <source>2. New APPs</source>
-        <translation type="unfinished"></translation>
+        <translation>2. 새로운 앱</translation>
     </message>
     <message>
         <source>3. APP Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>3. 앱 업데이트</translation>
     </message>
     <message>
         <source>and more...</source>
-        <translation type="unfinished"></translation>
+        <translation>그 밖의 소식...</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>&lt;H3&gt;To join us, please &quot;Like&quot; %1 on Facebook.&lt;/H3&gt;Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;팔로우하려면 Facebook의 %1 페이지에서 &quot;좋아요&quot;를 눌러 주세요.&lt;/H3&gt;감사합니다!</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MMessageBox</name>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>확인</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>아니요</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>예</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>중단</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 시도</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>무시</translation>
     </message>
     <message>
         <source>YesAll</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 예</translation>
     </message>
     <message>
         <source>NoAll</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 아니요</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MoreAppsButton</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>더 보기</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoAdsBar</name>
     <message>
         <source>Close the banner</source>
-        <translation type="unfinished"></translation>
+        <translation>배너 닫기</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoMenuBar</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>더 보기</translation>
     </message>
     <message>
         <source>Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation>소개</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>공유</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>팔로우하기</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 앱</translation>
     </message>
     <message>
         <source>Rate App</source>
-        <translation type="unfinished"></translation>
+        <translation>앱 평가</translation>
     </message>
     <message>
         <source>App Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>앱 메뉴</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateAppStoreDialog</name>
     <message>
         <source>Rate &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; 평가</translation>
     </message>
     <message>
         <source>Enjoying &quot;%1&quot; ?</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; 앱이 마음에 드시나요?</translation>
     </message>
     <message>
         <source>Please rate the app on the App Store.&lt;br&gt;This will help us improve &lt;br&gt;the app&apos;s features in the future.</source>
-        <translation type="unfinished"></translation>
+        <translation>App Store에서 앱을 평가해 주세요.&lt;br&gt;앞으로 앱의 기능을&lt;br&gt;개선하는 데 도움이 됩니다.</translation>
     </message>
     <message>
         <source>&amp;Rate It Now</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 평가(&amp;R)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RateMailDialog</name>
     <message>
         <source>Feedback about &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;에 대한 의견</translation>
     </message>
     <message>
         <source>Please rate it on the app store or send us a quick e-mail&lt;br&gt;and tell us what you didn&apos;t enjoy. &lt;br&gt;Your feedback will help us improve this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>App Store에서 앱을 평가하시거나&lt;br&gt;마음에 들지 않은 점을 이메일로 알려 주세요.&lt;br&gt;보내 주신 의견은 앱을 개선하는 데 도움이 됩니다.</translation>
     </message>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>평가(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Write email</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일 쓰기(&amp;W)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderDialog</name>
     <message>
         <source>&amp;Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>평가(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>메일(&amp;M)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::ReminderStateDialog</name>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>나중에(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t ask me again</source>
-        <translation type="unfinished"></translation>
+        <translation>다시 묻지 않기(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::RoundProgress</name>
     <message>
         <source>Overall progress</source>
-        <translation type="unfinished"></translation>
+        <translation>전체 진행률</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellDialog</name>
     <message>
         <source>Share %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 공유</translation>
     </message>
     <message>
         <source>If you like the app&lt;br&gt;please share it with&lt;br&gt;your friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>앱이 마음에 드시면&lt;br&gt;친구들과&lt;br&gt;공유해 주세요.&lt;br&gt;감사합니다!</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellReminderDialog</name>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>공유</translation>
     </message>
     <message>
         <source>If you like the app %1,&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 앱이 마음에 드시면&lt;br&gt;친구들과 공유해 주세요.&lt;br&gt;감사합니다!</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::TellWidget</name>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>이메일</translation>
     </message>
 </context>
 </TS>
