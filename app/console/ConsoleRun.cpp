@@ -15,6 +15,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <QtEndian>
 #include <QUrl>
 
 namespace {
@@ -49,11 +50,38 @@ QString lostTags(const RunReceipt &receipt)
     return lost.isEmpty() ? QString() : u"  tags lost: "_qs + lost.join(u", "_qs);
 }
 
-/// The mean bit rate of a finished file in kbit/s, from its size: what it really came to.
+/// The bytes of sound in a finished file: the bodies of its "mdat" atoms (ISO 14496-12).
+qint64 soundBytes(const QString &path)
+{
+    constexpr qint64 headerBytes = 8;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    qint64 bytes = 0;
+    for (qint64 at = 0; file.seek(at);) {
+        const QByteArray header = file.read(headerBytes);
+        if (header.size() < headerBytes) {
+            break;
+        }
+        const qint64 size = qFromBigEndian<quint32>(header.constData());
+        // Our own files stay below 4 GB, so that there are no atoms of the long form.
+        if (size < headerBytes) {
+            break;
+        }
+        bytes += header.endsWith("mdat") ? size - headerBytes : 0;
+        at += size;
+    }
+    return bytes;
+}
+
+/// The mean bit rate that the sound of a finished file really came to.
 QString realBitRate(const RunReceipt &receipt)
 {
-    const qint64 bits = QFileInfo(receipt.output).size() * 8;
-    return QString::number(receipt.lengthMs > 0 ? bits / receipt.lengthMs : 0) + u" kbit/s"_qs;
+    const qint64 bits = soundBytes(receipt.output) * 8;
+    return QString::number(
+               receipt.lengthMs > 0 ? (bits + receipt.lengthMs / 2) / receipt.lengthMs : 0)
+        + u" kbit/s"_qs;
 }
 
 }
@@ -182,7 +210,7 @@ void ConsoleRun::report() const
         if (receipt.output.isEmpty()) {
             continue;
         }
-        QString line = receipt.source + u" -> "_qs + receipt.output + u"  "_qs
+        QString line = receipt.source + u" -> "_qs + QDir::cleanPath(receipt.output) + u"  "_qs
             + ConsoleProgress::clock((receipt.lengthMs + 500) / 1000) + u"  "_qs;
         if (AppSettingsDialog::normalizationActive()) {
             line += QString::asprintf("%+.1f dB  ", receipt.gainDb);

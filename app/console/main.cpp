@@ -12,6 +12,8 @@ int main(int argc, char **argv)
     ensureUtf8FileNames();
     // No window system is needed, and none is asked.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The standard error stream is for the user: what the libraries have to say goes to the log.
+    QMWidgets::App::disableTerminalOuput();
     QMWidgets::App app(argc, argv, programOrganisation(), programName());
     initProgramIdentity();
     if (!QMWidgets::App::isSigned()) {
