@@ -8,6 +8,7 @@
 #include "FreeName.h"
 #include "Literals.h"
 #include "NativeMetaTags.h"
+#include "PendingExports.h"
 #include "Settings.h"
 #include "WaveOutput.h"
 
@@ -85,6 +86,8 @@ void GeneralOutput::close()
 void GeneralOutput::transcode()
 {
     const QFileInfo wave(m_outputFile);
+    // A name that an export holds for a moment isn't taken.
+    PendingExports::waitForOutput(wave.path() + u"/"_qs + wave.completeBaseName() + u".m4a"_qs);
     m_finalFile = freeName(wave.path() + u"/"_qs, wave.completeBaseName(), u".m4a"_qs);
 
     QMMultiMedia::AFTransCoder transcoder(nullptr);

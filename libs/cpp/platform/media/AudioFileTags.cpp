@@ -7,13 +7,12 @@
 #include "Id3Items.h"
 #include "Literals.h"
 
-#include <cmath>
 #include <cstring>
+#include <memory>
 #include <optional>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
-#include <taglib/attachedpictureframe.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/mpegfile.h>
 #include <taglib/tbytevectorstream.h>

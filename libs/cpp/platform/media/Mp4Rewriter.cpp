@@ -181,10 +181,10 @@ bool Mp4Rewriter::buildIndex(const QList<AVMetadataItem> &items)
     if (old.isNull() || !buffer.open(QIODevice::ReadOnly)) {
         return fail(u"its index can't be read");
     }
-    constexpr int headerBytes = 8;
+    // A long file's index has megabytes: it is built in place, its header last.
+    m_index = atomBytes(atomType("moov"), {});
+    m_index.reserve(m_index.size() + old.size());
     AtomReader atoms(buffer);
-    QByteArray body;
-    body.reserve(old.size());
     qint64 reached = 0;
     bool isGood = true;
     atoms.forEachChild(atoms.root(), [&](const Atom &atom) {
@@ -196,9 +196,9 @@ bool Mp4Rewriter::buildIndex(const QList<AVMetadataItem> &items)
             readUserData(atoms, atom);
         } else if (atom.type != atomType("meta")) {
             if (atom.type == atomType("trak")) {
-                isGood = isGood && readTrack(atoms, atom, headerBytes + body.size());
+                isGood = isGood && readTrack(atoms, atom, m_index.size());
             }
-            body += old.mid(static_cast<int>(atom.start), static_cast<int>(atom.end - atom.start));
+            m_index.append(old.constData() + atom.start, static_cast<int>(atom.end - atom.start));
         }
         return isGood;
     });
@@ -213,9 +213,9 @@ bool Mp4Rewriter::buildIndex(const QList<AVMetadataItem> &items)
     }
     const QByteArray ilst = encodedItems(items) + m_gaplessItem;
     if (!ilst.isEmpty() || !m_chapters.isEmpty()) {
-        body += userDataWithItems(ilst, m_chapters);
+        m_index += userDataWithItems(ilst, m_chapters);
     }
-    m_index = atomBytes(atomType("moov"), body);
+    qToBigEndian(static_cast<quint32>(m_index.size()), m_index.data());
     return true;
 }
 
