@@ -397,10 +397,6 @@ Bitte überprüfen Sie das Ziel.</translation>
         <translation>Position</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
-    </message>
-    <message>
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
@@ -411,6 +407,10 @@ Bitte überprüfen Sie das Ziel.</translation>
     <message>
         <source>Remove from list</source>
         <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Wiedergabe oder Pause</translation>
     </message>
 </context>
 <context>

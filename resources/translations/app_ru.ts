@@ -397,10 +397,6 @@ Please verify the destination.</source>
         <translation>Позиция</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Пауза</translation>
-    </message>
-    <message>
         <source>Stop</source>
         <translation>Стоп</translation>
     </message>
@@ -411,6 +407,10 @@ Please verify the destination.</source>
     <message>
         <source>Remove from list</source>
         <translation>Удалить из списка</translation>
+    </message>
+    <message>
+        <source>Play or pause</source>
+        <translation>Воспроизвести или приостановить</translation>
     </message>
 </context>
 <context>

@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation>&amp;Письмо</translation>
+        <translation>П&amp;исьмо</translation>
     </message>
 </context>
 <context>
