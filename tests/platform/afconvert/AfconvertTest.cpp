@@ -139,6 +139,8 @@ TEST_F(Afconvert, RefusesByNameAndLeavesNothing)
     MediaMaker::writeFile(path(u"six.wav"_qs), wav.bytes({}));
     MediaMaker::writeFile(path(u"cut.wav"_qs), whole.left(whole.size() - 1));
     MediaMaker::writeFile(path(u"headless.wav"_qs), whole.left(30));
+    // Endless empty chunks.
+    ASSERT_TRUE(QFile::resize(path(u"headless.wav"_qs), qint64 {1} << 40));
     MediaMaker::writeFile(path(u"text\n.wav"_qs), "RIFF text");
     ASSERT_EQ(::mkfifo(path(u"pipe"_qs).toUtf8().constData(), 0600), 0);
     MediaMaker::writeFile(path(u"there.m4a"_qs), "keep");
@@ -268,6 +270,9 @@ TEST_F(Afconvert, PlacesOnlyWhatIsCompleteAndNew)
         ASSERT_TRUE(MediaMaker::writeFile(path(u"taken.m4a"_qs), "theirs"));
         EXPECT_THROW(file.place(), ConvertError);
         EXPECT_EQ(MediaMaker::bytesOf(path(u"taken.m4a"_qs)), QByteArray("theirs"));
+        ASSERT_TRUE(QFile::remove(path(u"taken.m4a"_qs)));
+        EXPECT_NO_THROW(file.place());
+        EXPECT_EQ(MediaMaker::bytesOf(path(u"taken.m4a"_qs)), QByteArray("ours"));
         ASSERT_TRUE(QFile::remove(path(u"taken.m4a"_qs)));
     }
     ASSERT_EQ(run({path(u"in.wav"_qs), u"-o"_qs, path(u"out.m4a"_qs)}).exitCode, 0);
