@@ -7,6 +7,7 @@
 #include "MakerHosts.h"
 #include "Os.h"
 #include "PendingExports.h"
+#include "ProcessStart.h"
 #include "ProgramIdentity.h"
 #include "PromoMenuBar.h"
 #include "TerminationSignals.h"
@@ -100,6 +101,7 @@ void finishExports()
 
 int main(int argc, char **argv)
 {
+    MTools::prepareProcess();
     ensureUtf8FileNames();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -27,17 +27,6 @@ int terminalWidth()
     return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
 }
 
-/// A name may hold line feeds and escape sequences; a terminal isn't to obey them.
-QString printable(QString text)
-{
-    for (QChar &c : text) {
-        if (c.category() == QChar::Other_Control) {
-            c = u'?';
-        }
-    }
-    return text;
-}
-
 }
 
 ConsoleProgress::ConsoleProgress(int total)
@@ -81,6 +70,16 @@ void ConsoleProgress::finish()
 {
     clear();
     m_finished = true;
+}
+
+QString ConsoleProgress::printable(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control) {
+            c = u'?';
+        }
+    }
+    return text;
 }
 
 QString ConsoleProgress::clock(qint64 seconds)

@@ -25,6 +25,9 @@ public:
 
     /// "1:05:09" or "3:07" for seconds; for the time left.
     static QString clock(qint64 seconds);
+    /// The text without control characters: a name may hold line feeds and escape sequences, and
+    /// neither a line nor a terminal is to obey them.
+    static QString printable(QString text);
 
 private:
     void draw();

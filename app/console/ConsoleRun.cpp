@@ -5,6 +5,7 @@
 #include "BatchWorker.h"
 #include "ConversionFormat.h"
 #include "Literals.h"
+#include "MediaCommon.h"
 #include "MediaScan.h"
 #include "Os.h"
 #include "PendingExports.h"
@@ -17,12 +18,13 @@
 #include <QTemporaryFile>
 #include <QtEndian>
 #include <QUrl>
+#include <unistd.h>
 
 namespace {
 
 void say(const QString &line)
 {
-    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+    std::fprintf(stderr, "%s\n", ConsoleProgress::printable(line).toLocal8Bit().constData());
 }
 
 /// Makes the folder where it is missing, and tries whether it takes a file.
@@ -129,12 +131,15 @@ bool ConsoleRun::prepareDestination() const
 bool ConsoleRun::scan()
 {
     QList<QUrl> urls;
+    QString problem;
     for (const QString &path : qAsConst(m_arguments.paths)) {
         const QFileInfo info(path);
         if (info.isDir() || info.isFile()) {
             urls.append(QUrl::fromLocalFile(path));
         } else {
-            m_missing.append(path);
+            refuse(path);
+            problem = info.exists() ? u"neither a file nor a folder: "_qs
+                                    : u"no such file or folder: "_qs;
         }
     }
     QMMultiMedia::MediaScan scan;
@@ -145,16 +150,21 @@ bool ConsoleRun::scan()
         say(u"Passed over, because the name isn't valid text: "_qs
             + number(scan.unreadableNames(), "file", "files"));
     }
-    for (const QString &path : qAsConst(m_missing)) {
-        const QString line = u"Can not convert: "_qs + path + u"\n"_qs;
-        m_errors += line;
-    }
+    refuseUnreadable(scan);
     if (m_files.isEmpty()) {
-        say(m_missing.isEmpty()
-                ? u"calderin-m4a-batch: there is nothing to convert"_qs
-                : u"calderin-m4a-batch: there is nothing to convert; no such file or folder: "_qs
-                    + m_missing.first());
+        QString line = u"calderin-m4a-batch: there is nothing to convert"_qs;
+        if (!m_refused.isEmpty()) {
+            line += u"; "_qs + (problem.isEmpty() ? u"can't be read: "_qs : problem)
+                + m_refused.first();
+        }
+        say(line);
         return false;
+    }
+    for (const QString &path : scan.unsuportedFiles()) {
+        const bool asked = m_arguments.paths.contains(path) && !m_refused.contains(path);
+        if (asked && !AppSettingsDialog::copyEntireContentActive()) {
+            say(u"Passed over, because it isn't known as sound or video: "_qs + path);
+        }
     }
     BatchWorker *worker = m_thread.worker();
     worker->setSettings(conversionFormat());
@@ -164,6 +174,30 @@ bool ConsoleRun::scan()
     worker->setUnsuportedFiles(scan.unsuportedFiles().toVector());
     worker->setDroppedUrls(urls);
     return true;
+}
+
+void ConsoleRun::refuse(const QString &path)
+{
+    m_refused.append(path);
+    m_errors += u"Can not convert: "_qs + path + u"\n"_qs;
+}
+
+/// What the scan left out, although its name says that it is sound, and folders that stay shut.
+void ConsoleRun::refuseUnreadable(const QMMultiMedia::MediaScan &scan)
+{
+    using QMMultiMedia::MediaCommon;
+    for (const QString &path : scan.unsuportedFiles()) {
+        const bool isMedia = MediaCommon::isAudio(path) || MediaCommon::isVideo(path);
+        if (isMedia && !QFileInfo(path).isHidden()) {
+            refuse(path);
+        }
+    }
+    for (const QString &path : scan.folders() + m_arguments.paths) {
+        const QFileInfo info(path);
+        if (info.isDir() && !(info.isReadable() && info.isExecutable())) {
+            refuse(path);
+        }
+    }
 }
 
 void ConsoleRun::convert()
@@ -218,10 +252,23 @@ void ConsoleRun::report() const
         say(line + realBitRate(receipt) + lostTags(receipt));
     }
     if (!m_errors.isEmpty()) {
-        std::fputs(m_errors.toLocal8Bit().constData(), stderr);
+        std::fputs(errorLines().toLocal8Bit().constData(), stderr);
     }
     std::printf("%s\n", QFile::encodeName(m_runFolder).constData());
     std::fflush(stdout);
+}
+
+/// The log to the letter, but a terminal isn't to obey the names in it.
+QString ConsoleRun::errorLines() const
+{
+    if (::isatty(STDERR_FILENO) == 0) {
+        return m_errors;
+    }
+    QStringList lines = m_errors.split(u'\n');
+    for (QString &line : lines) {
+        line = ConsoleProgress::printable(line);
+    }
+    return lines.join(u'\n');
 }
 
 void ConsoleRun::slotTerminate(int)

@@ -9,6 +9,10 @@
 #include <QStringList>
 #include <QVector>
 
+namespace QMMultiMedia {
+class MediaScan;
+}
+
 /// One run without a window: scan, conversion, report.
 ///
 /// The words for the user go to the standard error stream; the last line on the standard output is
@@ -48,15 +52,18 @@ private:
 
     bool prepareDestination() const;
     bool scan();
+    void refuse(const QString &path);
+    void refuseUnreadable(const QMMultiMedia::MediaScan &scan);
     void convert();
     void waitForTags();
     void report() const;
+    QString errorLines() const;
 
     ConsoleArguments m_arguments;
     BatchThread m_thread;
     std::unique_ptr<ConsoleProgress> m_pprogress;
     QVector<QString> m_files;
-    QStringList m_missing;
+    QStringList m_refused; ///< paths that were told as "Can not convert" before the run
     QString m_runFolder;
     QString m_errors;
     bool m_stopped = false;

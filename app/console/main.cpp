@@ -1,7 +1,9 @@
 #include "App.h"
 #include "ConsoleArguments.h"
+#include "ConsoleProgress.h"
 #include "ConsoleRun.h"
 #include "Literals.h"
+#include "ProcessStart.h"
 #include "ProgramIdentity.h"
 #include "TerminationSignals.h"
 
@@ -9,6 +11,7 @@
 
 int main(int argc, char **argv)
 {
+    MTools::prepareProcess();
     ensureUtf8FileNames();
     // No window system is needed, and none is asked.
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -31,7 +34,7 @@ int main(int argc, char **argv)
         return 0;
     case ConsoleArguments::Action::Wrong:
         std::fprintf(stderr, "calderin-m4a-batch: %s (see --help)\n",
-            arguments.message.toLocal8Bit().constData());
+            ConsoleProgress::printable(arguments.message).toLocal8Bit().constData());
         return ConsoleRun::NothingToDo;
     case ConsoleArguments::Action::Run:
         break;

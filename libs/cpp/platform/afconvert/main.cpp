@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 #include "Converter.h"
 #include "ConvertError.h"
-#include <csignal>
+#include "ProcessStart.h"
 #include <cstdio>
 #include <exception>
 
@@ -43,9 +43,7 @@ int run(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    // A limit of the file size is an error of writing like any other.
-    std::signal(SIGXFSZ, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
+    MTools::prepareProcess();
     try {
         return run(argc, argv);
     } catch (const std::exception &error) {
