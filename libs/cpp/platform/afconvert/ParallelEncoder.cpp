@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int shortestSeconds = 10;
-constexpr int longestSeconds = 90;
+constexpr int longestSeconds = 120;
 // Bytes of packets that may wait for their turn.
 constexpr std::int64_t waitingBytes = std::int64_t {16} << 20;
 
