@@ -50,6 +50,8 @@ std::vector<float> SoundServer::takeRecording()
 {
     const QByteArray bytes = m_recorder.read(m_recorder.bytesAvailable() / 8 * 8);
     std::vector<float> samples(static_cast<std::size_t>(bytes.size()) / sizeof(float));
-    std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
+    if (!samples.empty()) {
+        std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
+    }
     return samples;
 }

@@ -70,6 +70,13 @@ Heard analyse(const std::vector<float> &samples)
 class AudioPlayerTest : public ::testing::Test
 {
 protected:
+    /// Before the first player: no other sound system of the machine, and no server but ours.
+    static void SetUpTestSuite()
+    {
+        qputenv("SDL_AUDIODRIVER", "pulseaudio");
+        qputenv("PULSE_SERVER", "unix:/nonexistent");
+    }
+
     QString file(const QString &name) const { return m_folder.filePath(name); }
 
     /// A sine of amplitude 0.5 in both channels.
@@ -84,8 +91,9 @@ protected:
     /// Five seconds of 500 Hz, then five of 2 kHz.
     bool makeSteps(const QString &name, const QStringList &options) const
     {
-        return MediaMaker::ffmpeg(QStringList {u"-f"_qs, u"lavfi"_qs, u"-i"_qs,
-                                      u"aevalsrc=0.5*sin(2*PI*(500+1500*gte(t\\,5))*t):s=44100:d=10"_qs}
+        return MediaMaker::ffmpeg(
+            QStringList {u"-f"_qs, u"lavfi"_qs, u"-i"_qs,
+                u"aevalsrc=0.5*sin(2*PI*(500+1500*gte(t\\,5))*t):s=44100:d=10"_qs}
             + options + QStringList {file(name)});
     }
 
@@ -217,8 +225,8 @@ TEST_F(AudioPlayerTest, SoundsAsAskedAndEndsByItself)
         float balance;
         double left;
         double right;
-    } cases[] = {{100, 0.0F, 0.5, 0.5}, {40, 0.0F, 0.2, 0.2}, {100, -1.0F, 0.5, 0.0},
-        {80, 0.5F, 0.2, 0.4}};
+    } cases[] = {
+        {100, 0.0F, 0.5, 0.5}, {40, 0.0F, 0.2, 0.2}, {100, -1.0F, 0.5, 0.0}, {80, 0.5F, 0.2, 0.4}};
     QElapsedTimer timer;
     for (const auto &test : cases) {
         SCOPED_TRACE(test.balance);
@@ -342,7 +350,6 @@ TEST_F(StuckSoundServerTest, HoldsNobodyUp)
             || listen(deaf, 5) != 0 || !makeTone(u"tone.wav"_qs, 440, 60)) {
             _exit(2);
         }
-        qputenv("SDL_AUDIODRIVER", "pulseaudio");
         qputenv("PULSE_SERVER", "unix:" + path);
         NativeAudioPlayer player;
         QSignalSpy finished(&player, &NativeAudioPlayer::finished);

@@ -174,17 +174,21 @@ TEST_F(ExtAudioFileTest, TakesTheDefaultSoundOfVideosAndLeavesPicturesAlone)
     makeChirp();
     const QStringList video {u"-f"_qs, u"lavfi"_qs, u"-i"_qs, u"testsrc=d=1:s=64x48:r=10"_qs};
     const QString wave = file(u"chirp.wav"_qs);
-    ASSERT_TRUE(MediaMaker::ffmpeg(video + QStringList {u"-i"_qs, wave, u"-c:v"_qs, u"mpeg4"_qs,
-        u"-c:a"_qs, u"aac"_qs, file(u"v.mp4"_qs)}));
-    ASSERT_TRUE(MediaMaker::ffmpeg(video + QStringList {u"-f"_qs, u"lavfi"_qs, u"-i"_qs,
-        u"sine=d=0.3"_qs, u"-i"_qs, wave, u"-map"_qs, u"0"_qs, u"-map"_qs, u"1"_qs, u"-map"_qs,
-        u"2"_qs, u"-c:a"_qs, u"flac"_qs, u"-disposition:a:0"_qs, u"0"_qs, u"-disposition:a:1"_qs,
-        u"default"_qs, file(u"two.mkv"_qs)}));
-    ASSERT_TRUE(MediaMaker::ffmpeg(video + QStringList {u"-frames:v"_qs, u"1"_qs, file(u"p.png"_qs)}));
-    ASSERT_TRUE(MediaMaker::ffmpeg({u"-i"_qs, wave, u"-i"_qs, file(u"p.png"_qs), u"-map"_qs, u"0"_qs,
-        u"-map"_qs, u"1"_qs, u"-c:a"_qs, u"libmp3lame"_qs, u"-disposition:v"_qs, u"attached_pic"_qs,
-        file(u"cover.mp3"_qs)}));
-    ASSERT_TRUE(MediaMaker::ffmpeg(video + QStringList {u"-c:v"_qs, u"mpeg4"_qs, file(u"mute.mp4"_qs)}));
+    ASSERT_TRUE(MediaMaker::ffmpeg(video
+        + QStringList {
+            u"-i"_qs, wave, u"-c:v"_qs, u"mpeg4"_qs, u"-c:a"_qs, u"aac"_qs, file(u"v.mp4"_qs)}));
+    ASSERT_TRUE(MediaMaker::ffmpeg(video
+        + QStringList {u"-f"_qs, u"lavfi"_qs, u"-i"_qs, u"sine=d=0.3"_qs, u"-i"_qs, wave,
+            u"-map"_qs, u"0"_qs, u"-map"_qs, u"1"_qs, u"-map"_qs, u"2"_qs, u"-c:a"_qs, u"flac"_qs,
+            u"-disposition:a:0"_qs, u"0"_qs, u"-disposition:a:1"_qs, u"default"_qs,
+            file(u"two.mkv"_qs)}));
+    ASSERT_TRUE(
+        MediaMaker::ffmpeg(video + QStringList {u"-frames:v"_qs, u"1"_qs, file(u"p.png"_qs)}));
+    ASSERT_TRUE(MediaMaker::ffmpeg({u"-i"_qs, wave, u"-i"_qs, file(u"p.png"_qs), u"-map"_qs,
+        u"0"_qs, u"-map"_qs, u"1"_qs, u"-c:a"_qs, u"libmp3lame"_qs, u"-disposition:v"_qs,
+        u"attached_pic"_qs, file(u"cover.mp3"_qs)}));
+    ASSERT_TRUE(
+        MediaMaker::ffmpeg(video + QStringList {u"-c:v"_qs, u"mpeg4"_qs, file(u"mute.mp4"_qs)}));
     for (const char *name : {"v.mp4", "two.mkv", "cover.mp3"}) {
         EXPECT_EQ(readAll(file(QLatin1String(name)), 44100, 16).frames, Frames) << name;
     }
@@ -217,8 +221,7 @@ TEST_F(ExtAudioFileTest, FollowsChangesAndChains)
         const Read read = readAll(file(u"both"_qs), 44100, 16);
         EXPECT_NEAR(read.frames, test.frames, test.tolerance);
         const std::vector<double> left = read.samples(16, 0);
-        const auto loudest
-            = [](auto begin, auto end) { return *std::max_element(begin, end); };
+        const auto loudest = [](auto begin, auto end) { return *std::max_element(begin, end); };
         EXPECT_GT(loudest(left.end() - 20000, left.end()), 0.25); // the second part sounds
     }
 }
@@ -239,7 +242,8 @@ TEST_F(ExtAudioFileTest, RefusesWhatIsNoSoundByCode)
         EXPECT_EQ(opened, nullptr);
         return status;
     };
-    const auto openFile = [&](const QString &name) { return open(QUrl::fromLocalFile(file(name))); };
+    const auto openFile
+        = [&](const QString &name) { return open(QUrl::fromLocalFile(file(name))); };
     for (const char *name : {"missing.wav", "pipe.wav", ".", "chirp.wav/below"}) {
         EXPECT_EQ(openFile(QLatin1String(name)), -43) << name;
     }
@@ -322,8 +326,8 @@ TEST_F(ExtAudioFileTest, WritesFlacThatReadsBack)
         output.mBitsPerChannel = static_cast<UInt32>(bits);
         const QUrl url = QUrl::fromLocalFile(file(u"out.flac"_qs));
         ExtAudioFileRef flac = nullptr;
-        ASSERT_EQ(ExtAudioFileCreateWithURL(url, kAudioFileFLACType, &output, nullptr,
-                      kAudioFileFlags_EraseFile, &flac),
+        ASSERT_EQ(ExtAudioFileCreateWithURL(
+                      url, kAudioFileFLACType, &output, nullptr, kAudioFileFlags_EraseFile, &flac),
             noErr);
         ExtAudioFileRef second = nullptr;
         EXPECT_EQ(

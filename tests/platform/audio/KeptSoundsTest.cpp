@@ -83,9 +83,9 @@ TEST_F(KeptSoundsTest, NeverGivesWhatIsNoLongerInTheFile)
 TEST_F(KeptSoundsTest, StaysBelowTheLimitAndReadsOnBeyondIt)
 {
     // 16 minutes: 169 MB as two channels of 16 bits; stated by one file, hidden by the other.
-    ASSERT_TRUE(MediaMaker::ffmpeg({u"-f"_qs, u"lavfi"_qs, u"-i"_qs,
-        u"anoisesrc=d=960:r=44100:a=0.1"_qs, u"-ac"_qs, u"1"_qs, u"-c:a"_qs, u"pcm_u8"_qs,
-        file(u"long.wav"_qs)}));
+    ASSERT_TRUE(
+        MediaMaker::ffmpeg({u"-f"_qs, u"lavfi"_qs, u"-i"_qs, u"anoisesrc=d=960:r=44100:a=0.1"_qs,
+            u"-ac"_qs, u"1"_qs, u"-c:a"_qs, u"pcm_u8"_qs, file(u"long.wav"_qs)}));
     const QByteArray bytes = MediaMaker::bytesOf(file(u"long.wav"_qs));
     ASSERT_TRUE(MediaMaker::writeFile(file(u"unknown.au"_qs),
         QByteArray::fromHex("2e736e640000001cffffffff000000020000ac44000000010000000000000000")

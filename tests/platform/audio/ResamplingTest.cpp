@@ -99,8 +99,8 @@ TEST(ResamplingTest, KeepsLengthAndPlaceAtEveryRate)
             const std::vector<double> left = read.samples(16, 0);
             double worst = 0.0;
             for (std::size_t i = left.size() / 10; i < left.size() * 9 / 10; ++i) {
-                worst = std::max(worst,
-                    std::abs(left[i] - 0.5 * std::sin(2 * M_PI * 440.0 * double(i) / to)));
+                worst = std::max(
+                    worst, std::abs(left[i] - 0.5 * std::sin(2 * M_PI * 440.0 * double(i) / to)));
             }
             EXPECT_LT(worst, 2e-4);
             EXPECT_TRUE(left == read.samples(16, 1));

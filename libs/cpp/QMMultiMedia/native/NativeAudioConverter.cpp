@@ -54,15 +54,14 @@ void NativeAudioConverter::doIt(const QString &source, const QString &destinatio
     MyAudioConverterSettings record;
     record.outputFormat = fixedFormat();
     // The destination is only touched once there is something to write into it.
-    const bool ready
-        = checkResult(ExtAudioFileOpenURL(fileUrl(source), &record.inputFile),
-              "ExtAudioFileOpenURL failed")
+    const bool ready = checkResult(ExtAudioFileOpenURL(fileUrl(source), &record.inputFile),
+                           "ExtAudioFileOpenURL failed")
         && checkResult(AudioFileCreateWithURL(fileUrl(destination), kAudioFileWAVEType,
                            &record.outputFormat, kAudioFileFlags_EraseFile, &record.outputFile),
             "AudioFileCreateWithURL failed")
-        && checkResult(ExtAudioFileSetProperty(record.inputFile,
-                           kExtAudioFileProperty_ClientDataFormat, sizeof(record.outputFormat),
-                           &record.outputFormat),
+        && checkResult(
+            ExtAudioFileSetProperty(record.inputFile, kExtAudioFileProperty_ClientDataFormat,
+                sizeof(record.outputFormat), &record.outputFormat),
             "Couldn't set client data format on input ext file");
     if (ready) {
         convert(&record);
@@ -95,9 +94,8 @@ void NativeAudioConverter::convert(MyAudioConverterSettings *settings)
             break;
         }
         UInt32 packets = frames;
-        if (!checkResult(
-                AudioFileWritePackets(settings->outputFile, false, frames * packetBytes, nullptr,
-                    bytesWritten / packetBytes, &packets, block.data()),
+        if (!checkResult(AudioFileWritePackets(settings->outputFile, false, frames * packetBytes,
+                             nullptr, bytesWritten / packetBytes, &packets, block.data()),
                 "Couldn't write packets to file")) {
             break;
         }

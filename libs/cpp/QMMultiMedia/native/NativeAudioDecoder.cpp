@@ -50,8 +50,8 @@ bool NativeAudioDecoder::setFile(
     m_position = 0;
     m_file = path;
     initInputInfo(path);
-    const CFURLRef url = CFURLCreateWithFileSystemPath(
-        nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false);
+    const CFURLRef url
+        = CFURLCreateWithFileSystemPath(nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false);
     if (!checkResult(ExtAudioFileOpenURL(url, &m_audioFile), "ExtAudioFileOpenURL failed")) {
         m_audioFile = nullptr;
         return false;
@@ -80,8 +80,7 @@ int NativeAudioDecoder::read(float *samples, int n)
     list.mBuffers[0]
         = {m_clientFormat.mChannelsPerFrame, static_cast<UInt32>(size), m_buffer.data()};
     auto frames = static_cast<UInt32>(size / m_clientFormat.mBytesPerPacket);
-    if (!checkResult(
-            ExtAudioFileRead(m_audioFile, &frames, &list), "Couldn't read from input file")
+    if (!checkResult(ExtAudioFileRead(m_audioFile, &frames, &list), "Couldn't read from input file")
         || frames == 0) {
         return 0;
     }
@@ -105,7 +104,7 @@ void NativeAudioDecoder::finish()
 
 void NativeAudioDecoder::foldToMono(float *samples, int frames)
 {
-    for (int i = 0; i < frames; ++i) {
+    for (std::ptrdiff_t i = 0; i < frames; ++i) {
         const float a = samples[2 * i];
         const float b = samples[2 * i + 1];
         const float product = a * b;

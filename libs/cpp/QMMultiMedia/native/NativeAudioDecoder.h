@@ -19,8 +19,8 @@ public:
     bool setFile(const QString &path, const int &sampleRate, const int &bitsPerSample,
         const int &channels) override;
 
-    /// n is the capacity, counted as for two channels: n / 2 frames are read. With one channel wanted
-    /// a frame gives one float, so half as many come.
+    /// n is the capacity, counted as for two channels: n / 2 frames are read. With one channel
+    /// wanted a frame gives one float, so half as many come.
     int read(float *samples, int n) override;
 
     void finish() override;

@@ -16,8 +16,8 @@ public:
 
     /// Opens the file for decoding at this rate (Hz), width (bits) and channel count; false, with
     /// error(), if that fails.
-    virtual bool setFile(const QString &path, const int &sampleRate, const int &bitsPerSample,
-        const int &channels)
+    virtual bool setFile(
+        const QString &path, const int &sampleRate, const int &bitsPerSample, const int &channels)
         = 0;
 
     /// Fills at most n floats and returns how many came; 0 at the end, on error or without a file.

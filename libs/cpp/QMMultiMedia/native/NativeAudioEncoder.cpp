@@ -9,7 +9,7 @@ namespace QMMultiMedia {
 int setBitRate(ExtAudioFileRef file, unsigned int bitRate)
 {
     AudioConverterRef converter = nullptr;
-    UInt32 size = sizeof(AudioConverterRef);
+    UInt32 size = sizeof(converter);
     const OSStatus found
         = ExtAudioFileGetProperty(file, kExtAudioFileProperty_AudioConverter, &size, &converter);
     if (found != noErr) {
@@ -27,11 +27,11 @@ NativeAudioEncoder::NativeAudioEncoder(
 {
     createOutputFormat(&m_outputFormat);
     createCanonicalFormat(&m_clientFormat);
-    const CFURLRef url = CFURLCreateWithFileSystemPath(
-        nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false);
+    const CFURLRef url
+        = CFURLCreateWithFileSystemPath(nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false);
     // A file that can't be made shows as an error of each write.
-    if (ExtAudioFileCreateWithURL(url, kAudioFileFLACType, &m_outputFormat, nullptr,
-            kAudioFileFlags_EraseFile, &m_file)
+    if (ExtAudioFileCreateWithURL(
+            url, kAudioFileFLACType, &m_outputFormat, nullptr, kAudioFileFlags_EraseFile, &m_file)
         == noErr) {
         Q_UNUSED(ExtAudioFileSetProperty(m_file, kExtAudioFileProperty_ClientDataFormat,
             sizeof(m_clientFormat), &m_clientFormat))

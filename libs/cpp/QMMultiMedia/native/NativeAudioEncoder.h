@@ -7,7 +7,8 @@
 
 namespace QMMultiMedia {
 
-/// Sets the bit rate (bits per second) of the encoder of a file that is written; 0 or an error code.
+/// Sets the bit rate (bits per second) of the encoder of a file that is written; 0 or an error
+/// code.
 int setBitRate(ExtAudioFileRef file, unsigned int bitRate);
 
 /// Writes float samples to a FLAC file, replacing one that exists.

@@ -232,7 +232,7 @@ void AudioListPlayer::slotFinished()
     Q_EMIT nextTriggered();
 }
 
-void AudioListPlayer::playCurrent()
+void AudioListPlayer::playCurrent() const
 {
     AudioPlayer::instance()->play(currentUrl().toLocalFile(), false);
 }

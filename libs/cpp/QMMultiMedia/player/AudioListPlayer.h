@@ -85,7 +85,7 @@ Q_SIGNALS:
 private:
     Q_DISABLE_COPY(AudioListPlayer)
     AudioListPlayer();
-    void playCurrent();
+    void playCurrent() const;
     void updateModel();
 
     QList<QUrl> m_playList;

@@ -177,8 +177,7 @@ void AudioPlayer::startLoopTimer()
 {
     const qint64 length = duration();
     if (length > 0) {
-        m_loopTimer.start(
-            static_cast<int>(qMin<qint64>(length, std::numeric_limits<int>::max())));
+        m_loopTimer.start(static_cast<int>(qMin<qint64>(length, std::numeric_limits<int>::max())));
     }
 }
 

@@ -27,8 +27,8 @@ void NativeAudioPlayerInternal::setMedia(const QString &path)
     if (m_player) {
         m_player->stop();
     }
-    m_player = AVAudioPlayer::initWithContentsOfURL(CFURLCreateWithFileSystemPath(
-        nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false));
+    m_player = AVAudioPlayer::initWithContentsOfURL(
+        CFURLCreateWithFileSystemPath(nullptr, path, CFURLPathStyle::kCFURLPOSIXPathStyle, false));
     if (m_player) {
         m_player->setPan(m_balance);
     }

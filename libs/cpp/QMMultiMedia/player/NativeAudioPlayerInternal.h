@@ -55,7 +55,12 @@ private Q_SLOTS:
 
 private:
     Q_DISABLE_COPY(NativeAudioPlayerInternal)
-    enum State { Playing, Stopped, Paused };
+    enum State
+    {
+        Playing,
+        Stopped,
+        Paused
+    };
 
     float m_balance = 0.0F;
     std::unique_ptr<AVAudioPlayer> m_player;

@@ -23,7 +23,7 @@ public:
     {
     }
 
-    ~WaveFile() override { close(); }
+    ~WaveFile() override { WaveFile::close(); }
 
     OSStatus open(UInt32 flags)
     {

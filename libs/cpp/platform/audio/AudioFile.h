@@ -11,8 +11,8 @@ struct OpaqueAudioFileID
     virtual ~OpaqueAudioFileID() = default;
 
     /// Writes packets at a packet index; see AudioFileWritePackets. Refused unless overridden.
-    virtual OSStatus writePackets(SInt64 /*startingPacket*/, UInt32 * /*ioPackets*/,
-        UInt32 /*bytes*/, const void * /*data*/)
+    virtual OSStatus writePackets(
+        SInt64 /*startingPacket*/, UInt32 * /*ioPackets*/, UInt32 /*bytes*/, const void * /*data*/)
     {
         return kAudioParamError;
     }

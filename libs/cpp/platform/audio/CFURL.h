@@ -3,7 +3,8 @@
 #include "CoreAudioTypes.h"
 #include <QString>
 
-enum class CFURLPathStyle {
+enum class CFURLPathStyle
+{
     kCFURLPOSIXPathStyle = 0,
 };
 

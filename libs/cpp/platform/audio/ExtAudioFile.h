@@ -44,8 +44,8 @@ constexpr ExtAudioFilePropertyID kExtAudioFileProperty_AudioConverter = fourCC("
 
 /// Reads up to *ioFrames frames of the client format.
 ///
-/// Blocks until all are there or the data ends; then *ioFrames is what came, and 0 with the result 0
-/// from there on. mDataByteSize bounds the read and becomes what was filled.
+/// Blocks until all are there or the data ends; then *ioFrames is what came, and 0 with the result
+/// 0 from there on. mDataByteSize bounds the read and becomes what was filled.
 [[nodiscard]] OSStatus ExtAudioFileRead(
     ExtAudioFileRef file, UInt32 *ioFrames, AudioBufferList *ioData);
 
@@ -63,6 +63,6 @@ void ExtAudioFileHint(const CFURLRef &url, const AudioStreamBasicDescription &cl
 /// Ends all reading ahead of files that aren't open. Never waits, not even for a read that hangs.
 void ExtAudioFileDropHints();
 
-/// Forgets everything that was kept for a second reading, hints included; files that are open can be
-/// read on.
+/// Forgets everything that was kept for a second reading, hints included; files that are open can
+/// be read on.
 void ExtAudioFileForgetKept();

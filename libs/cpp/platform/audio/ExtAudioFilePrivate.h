@@ -34,5 +34,5 @@ struct OpaqueAudioConverter
 };
 
 /// Creates a FLAC file; see ExtAudioFileCreateWithURL.
-std::unique_ptr<OpaqueExtAudioFile> createFlacFile(const CFURLRef &url,
-    const AudioStreamBasicDescription &format, UInt32 flags, OSStatus *status);
+std::unique_ptr<OpaqueExtAudioFile> createFlacFile(
+    const CFURLRef &url, const AudioStreamBasicDescription &format, UInt32 flags, OSStatus *status);

@@ -38,7 +38,7 @@ public:
     {
     }
 
-    ~FlacFile() override { close(); }
+    ~FlacFile() override { FlacFile::close(); }
 
     OSStatus open(const QByteArray &path)
     {
@@ -75,7 +75,8 @@ public:
     {
         const bool fits = format.mFormatID == kAudioFormatLinearPCM
             && format.mFormatFlags == (kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked)
-            && format.mBitsPerChannel == 32 && format.mChannelsPerFrame == m_output.mChannelsPerFrame
+            && format.mBitsPerChannel == 32
+            && format.mChannelsPerFrame == m_output.mChannelsPerFrame
             && format.mSampleRate == m_output.mSampleRate
             && format.mBytesPerFrame == format.mChannelsPerFrame * sizeof(float);
         m_client = fits ? format : m_client;
@@ -94,8 +95,8 @@ public:
         const auto *samples = static_cast<const float *>(data->mBuffers[0].mData);
         m_pending.insert(
             m_pending.end(), samples, samples + static_cast<std::size_t>(frames) * channels());
-        const std::size_t block
-            = static_cast<std::size_t>(m_encoder->frame_size) * static_cast<std::size_t>(channels());
+        const std::size_t block = static_cast<std::size_t>(m_encoder->frame_size)
+            * static_cast<std::size_t>(channels());
         std::size_t taken = 0;
         while (m_pending.size() - taken >= block) {
             encode(m_pending.data() + taken, m_encoder->frame_size);

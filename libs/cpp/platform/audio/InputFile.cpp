@@ -78,7 +78,7 @@ InputFile::~InputFile()
     }
 }
 
-int InputFile::read(void *data, int bytes)
+int InputFile::read(void *data, int bytes) const
 {
     while (!isCancelled()) {
         const ssize_t count = ::read(m_descriptor, data, static_cast<size_t>(bytes));
@@ -92,7 +92,7 @@ int InputFile::read(void *data, int bytes)
     return -1;
 }
 
-bool InputFile::seek(qint64 offset)
+bool InputFile::seek(qint64 offset) const
 {
     return offset >= 0 && !isCancelled() && lseek(m_descriptor, offset, SEEK_SET) == offset;
 }

@@ -20,8 +20,8 @@ struct FileKey
 
 /// A regular file opened for reading, as a stream of bytes whose reads can be called off.
 ///
-/// Pipes, sockets and devices are refused before they are opened: opening one can block, and reading
-/// one takes bytes from somebody else.
+/// Pipes, sockets and devices are refused before they are opened: opening one can block, and
+/// reading one takes bytes from somebody else.
 class InputFile
 {
 public:
@@ -40,10 +40,10 @@ public:
 
     /// Reads at most `bytes` bytes at the current place; 0 at the end, -1 on an error or after
     /// cancel().
-    int read(void *data, int bytes);
+    int read(void *data, int bytes) const;
 
     /// Moves to an absolute place; false if that isn't possible.
-    bool seek(qint64 offset);
+    bool seek(qint64 offset) const;
 
     /// Reads exactly these bytes without moving; false if they aren't all there.
     bool readAt(qint64 offset, void *data, int bytes) const;
@@ -59,8 +59,7 @@ public:
 
 private:
     InputFile() = default;
-    InputFile(const InputFile &) = delete;
-    InputFile &operator=(const InputFile &) = delete;
+    Q_DISABLE_COPY(InputFile)
 
     QByteArray m_path;
     FileKey m_key;

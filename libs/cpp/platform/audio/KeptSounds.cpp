@@ -77,8 +77,7 @@ void KeptSounds::dropHints()
     removeHints([](const Entry &) { return true; });
 }
 
-template<typename Condition>
-void KeptSounds::removeHints(Condition condition)
+template <typename Condition> void KeptSounds::removeHints(Condition condition)
 {
     for (auto entry = m_entries.begin(); entry != m_entries.end();) {
         if (!entry->hintUrl.isEmpty() && condition(*entry)) {

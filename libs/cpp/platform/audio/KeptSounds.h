@@ -7,14 +7,15 @@
 
 /// The readings of the process: those in use, those kept for a second pass, and the hint.
 ///
-/// A sound that was read to its end is kept for one more pass; one that was read ahead on a hint, for
-/// two. All functions can be called from any thread, and none waits for a file.
+/// A sound that was read to its end is kept for one more pass; one that was read ahead on a hint,
+/// for two. All functions can be called from any thread, and none waits for a file.
 class KeptSounds
 {
 public:
     static KeptSounds &instance();
 
-    /// A reading of this state of the file that nobody uses, at its beginning; null if there is none.
+    /// A reading of this state of the file that nobody uses, at its beginning; null if there is
+    /// none.
     std::shared_ptr<SoundReading> attach(const FileKey &key, const ClientFormat &format);
 
     /// Takes in a new reading that its caller uses; a hint for the same file is needless then.
@@ -44,8 +45,7 @@ private:
     };
 
     KeptSounds() = default;
-    template<typename Condition>
-    void removeHints(Condition condition);
+    template <typename Condition> void removeHints(Condition condition);
 
     mutable std::mutex m_mutex;
     std::list<Entry> m_entries;

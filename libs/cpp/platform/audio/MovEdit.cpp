@@ -1,6 +1,8 @@
 #include "MovEdit.h"
 
 #include "InputFile.h"
+#include <algorithm>
+#include <iterator>
 #include <QtEndian>
 
 namespace {
@@ -81,14 +83,10 @@ bool looksLikeMov(const InputFile &file)
     if (!file.readAt(0, bytes, 8)) {
         return false;
     }
-    const quint32 name = qFromBigEndian<quint32>(bytes + 4);
-    for (const quint32 known : {atomName("ftyp"), atomName("moov"), atomName("mdat"),
-             atomName("wide"), atomName("free"), atomName("skip"), atomName("pnot")}) {
-        if (name == known) {
-            return true;
-        }
-    }
-    return false;
+    const auto name = qFromBigEndian<quint32>(bytes + 4);
+    const quint32 known[] = {atomName("ftyp"), atomName("moov"), atomName("mdat"), atomName("wide"),
+        atomName("free"), atomName("skip"), atomName("pnot")};
+    return std::find(std::begin(known), std::end(known), name) != std::end(known);
 }
 
 struct Scale
@@ -146,7 +144,7 @@ bool readSpan(const InputFile &file, const Atom &list, Span *span)
     }
     const bool wide = bytes[0] != 0;
     const int entrySize = wide ? 20 : 12;
-    const quint32 count = qFromBigEndian<quint32>(bytes + 4);
+    const auto count = qFromBigEndian<quint32>(bytes + 4);
     if (count == 0 || count > 2 || list.end - list.begin - 8 < entrySize * qint64(count)) {
         return false;
     }
@@ -158,7 +156,7 @@ bool readSpan(const InputFile &file, const Atom &list, Span *span)
             = wide ? qFromBigEndian<qint64>(bytes) : qint64(qFromBigEndian<quint32>(bytes));
         const qint64 time
             = wide ? qFromBigEndian<qint64>(bytes + 8) : qint64(qFromBigEndian<qint32>(bytes + 4));
-        const quint32 speed = qFromBigEndian<quint32>(bytes + entrySize - 4);
+        const auto speed = qFromBigEndian<quint32>(bytes + entrySize - 4);
         if (time == -1 && span->mediaTime < 0) {
             continue;
         }

@@ -21,13 +21,13 @@ struct MovEdits
     /// By track number; only tracks that have an edit list.
     std::map<quint32, MovEdit> tracks;
 
-    /// Whether each edit list is a single span in normal speed, possibly after an empty one. If not,
-    /// tracks is of no use.
+    /// Whether each edit list is a single span in normal speed, possibly after an empty one. If
+    /// not, tracks is of no use.
     bool areSimple = false;
 };
 
 /// Reads the edits; not simple for files of another kind as well.
 ///
-/// A span's length is stated in the movie's time scale, often no finer than a millisecond: a span that
-/// ends within one such unit of the end of the media goes on to the end.
+/// A span's length is stated in the movie's time scale, often no finer than a millisecond: a span
+/// that ends within one such unit of the end of the media goes on to the end.
 MovEdits readMovEdits(const InputFile &file);

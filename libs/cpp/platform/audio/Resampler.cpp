@@ -11,7 +11,8 @@ extern "C" {
 namespace {
 
 constexpr int BlockFrames = 8192;
-/// Highest frequency that stays, as a part of the lower of the two half rates: 20.2 kHz of 44.1 kHz.
+/// Highest frequency that stays, as a part of the lower of the two half rates: 20.2 kHz of 44.1
+/// kHz.
 constexpr double PassBand = 0.917;
 
 }
@@ -26,7 +27,8 @@ std::unique_ptr<Resampler> Resampler::create(
 {
     AVChannelLayout layout;
     av_channel_layout_default(&layout, channels);
-    const AVSampleFormat format = kind == SampleKind::Double ? AV_SAMPLE_FMT_DBLP : AV_SAMPLE_FMT_FLTP;
+    const AVSampleFormat format
+        = kind == SampleKind::Double ? AV_SAMPLE_FMT_DBLP : AV_SAMPLE_FMT_FLTP;
     SwrContext *context = nullptr;
     if (swr_alloc_set_opts2(
             &context, &layout, format, outputRate, &layout, format, inputRate, 0, nullptr)

@@ -2,6 +2,7 @@
 
 #include "SoundBlock.h"
 #include <memory>
+#include <QtGlobal>
 #include <vector>
 
 struct SwrContext;
@@ -23,8 +24,8 @@ public:
     /// Frames to give to one call at most, so that what comes of them stays small.
     int inputLimit() const { return m_inputLimit; }
 
-    /// What a block of this kind and channel count gives; it may have no frames. Valid until the next
-    /// call.
+    /// What a block of this kind and channel count gives; it may have no frames. Valid until the
+    /// next call.
     SoundBlock convert(const SoundBlock &input);
 
     /// A part of what is still inside at the end of the stream; call until it has no frames.
@@ -32,8 +33,7 @@ public:
 
 private:
     Resampler() = default;
-    Resampler(const Resampler &) = delete;
-    Resampler &operator=(const Resampler &) = delete;
+    Q_DISABLE_COPY(Resampler)
 
     struct Deleter
     {

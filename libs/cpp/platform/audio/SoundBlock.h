@@ -1,7 +1,12 @@
 #pragma once
 
 /// How the samples of a block are held: full scale is 2^31 for integers, 1.0 for the others.
-enum class SampleKind { Int32, Float, Double };
+enum class SampleKind
+{
+    Int32,
+    Float,
+    Double
+};
 
 /// Samples on their way from the decoder to the client format, one array per channel; one channel
 /// stands for two equal ones. The memory belongs to whoever made the block.
@@ -14,7 +19,13 @@ struct SoundBlock
 };
 
 /// The sample formats that a reader can ask for, two channels interleaved, little-endian.
-enum class ClientSample { Int16, Int24, Int32, Float };
+enum class ClientSample
+{
+    Int16,
+    Int24,
+    Int32,
+    Float
+};
 
 /// Bytes of one stereo frame.
 int bytesPerFrame(ClientSample sample);

@@ -6,8 +6,8 @@
 SoundDecoder::SoundDecoder(std::unique_ptr<SoundSource> source, const ClientFormat &format)
     : m_source(std::move(source))
     , m_format(format)
-    , m_shaper(format.rate,
-          format.sample == ClientSample::Int24 || format.sample == ClientSample::Int32)
+    , m_shaper(
+          format.rate, format.sample == ClientSample::Int24 || format.sample == ClientSample::Int32)
 {
 }
 

@@ -11,15 +11,16 @@
 
 /// One decoding of a file on a thread of its own, ahead of the one who reads it.
 ///
-/// Either a short queue that the decoder fills as it is emptied, or, as long as there is room for it,
-/// all samples are kept so that they can be read again. The room is shared by all readings.
+/// Either a short queue that the decoder fills as it is emptied, or, as long as there is room for
+/// it, all samples are kept so that they can be read again. The room is shared by all readings.
 class SoundReading : public std::enable_shared_from_this<SoundReading>
 {
 public:
     /// All that is kept at one time, in bytes.
     static constexpr qint64 KeptLimit = qint64(128) * 1024 * 1024;
 
-    /// Starts decoding a file that is open. The thread belongs to the reading: end it with cancel() and join().
+    /// Starts decoding a file that is open. The thread belongs to the reading: end it with cancel()
+    /// and join().
     static std::shared_ptr<SoundReading> start(
         std::unique_ptr<SoundSource> source, const ClientFormat &format);
 
@@ -70,8 +71,7 @@ private:
     };
 
     explicit SoundReading(const ClientFormat &format);
-    SoundReading(const SoundReading &) = delete;
-    SoundReading &operator=(const SoundReading &) = delete;
+    Q_DISABLE_COPY(SoundReading)
 
     void runHint(const QUrl &url);
     void run(std::unique_ptr<SoundSource> source);

@@ -11,7 +11,7 @@ extern "C" {
 
 namespace {
 
-constexpr int MatrixSide = 64;
+constexpr std::size_t MatrixSide = 64;
 constexpr double MinusThreeDecibels = 0.70710678118654752440;
 /// Beyond these a header is wrong, and the arithmetic of a resampler may be as well.
 constexpr int LowestRate = 100;
@@ -24,15 +24,13 @@ bool isWhole(AVSampleFormat format)
 }
 
 /// One channel of a piece in its own sample type.
-template<typename S>
-struct Channel
+template <typename S> struct Channel
 {
     Channel(const SoundPiece &piece, int channel)
     {
         const AVFrame &frame = *piece.frame;
         const int channels = frame.ch_layout.nb_channels;
-        const bool planar
-            = av_sample_fmt_is_planar(static_cast<AVSampleFormat>(frame.format)) != 0;
+        const bool planar = av_sample_fmt_is_planar(static_cast<AVSampleFormat>(frame.format)) != 0;
         stride = planar ? 1 : channels;
         samples = reinterpret_cast<const S *>(frame.extended_data[planar ? channel : 0])
             + (planar ? 0 : channel) + static_cast<std::ptrdiff_t>(piece.begin) * stride;
@@ -42,8 +40,7 @@ struct Channel
     std::ptrdiff_t stride;
 };
 
-template<typename S, typename T>
-T full(S value)
+template <typename S, typename T> T full(S value)
 {
     if constexpr (std::is_same_v<S, std::uint8_t>) {
         if constexpr (std::is_same_v<T, std::int32_t>) {
@@ -61,8 +58,7 @@ T full(S value)
     }
 }
 
-template<typename S, typename T>
-void copyChannel(const Channel<S> &in, int frames, T *out)
+template <typename S, typename T> void copyChannel(const Channel<S> &in, int frames, T *out)
 {
     if (in.stride == 1) {
         for (int i = 0; i < frames; ++i) {
@@ -79,7 +75,7 @@ void copyChannel(const Channel<S> &in, int frames, T *out)
     }
 }
 
-template<typename S, typename T>
+template <typename S, typename T>
 void addChannel(const Channel<S> &in, int frames, double gain, T *out)
 {
     const T factor = static_cast<T>(gain);
@@ -89,7 +85,7 @@ void addChannel(const Channel<S> &in, int frames, double gain, T *out)
 }
 
 /// Copies one or two channels, or mixes more by their gains.
-template<typename S, typename T>
+template <typename S, typename T>
 void fillPlanes(const SoundPiece &piece, const std::vector<double> &gains, T *const planes[2])
 {
     const int frames = piece.end - piece.begin;
@@ -167,10 +163,10 @@ void SoundShaper::flush(const Sink &sink)
     }
 }
 
-bool SoundShaper::prepareResampler(
-    int inputRate, int channels, SampleKind kind, const Sink &sink)
+bool SoundShaper::prepareResampler(int inputRate, int channels, SampleKind kind, const Sink &sink)
 {
-    if (m_resampler && (m_resampler->inputRate() != inputRate || m_resampler->channels() != channels)) {
+    if (m_resampler
+        && (m_resampler->inputRate() != inputRate || m_resampler->channels() != channels)) {
         flush(sink);
     }
     if (!m_resampler) {
@@ -194,7 +190,7 @@ SoundBlock SoundShaper::convertPiece(const SoundPiece &piece, SampleKind kind)
     }
 }
 
-template<typename T>
+template <typename T>
 SoundBlock SoundShaper::convertPlanes(const SoundPiece &piece, SampleKind kind)
 {
     const int frames = piece.end - piece.begin;
@@ -256,13 +252,14 @@ void SoundShaper::prepareMix(const AVFrame &frame)
         && swr_build_matrix2(&input, &stereo, MinusThreeDecibels, MinusThreeDecibels, 0.0, 1.0, 1.0,
                matrix.data(), MatrixSide, AV_MATRIX_ENCODING_NONE, nullptr)
             >= 0;
+    const std::size_t onOneSide = (count + 1) / 2;
     for (std::size_t c = 0; c < count; ++c) {
         if (known) {
             m_mix.gains[2 * c] = matrix[c];
             m_mix.gains[2 * c + 1] = matrix[MatrixSide + c];
         } else {
             // Channels without a place: the even ones left, the odd ones right.
-            m_mix.gains[2 * c + c % 2] = 1.0 / static_cast<double>((count + 1) / 2);
+            m_mix.gains[2 * c + c % 2] = 1.0 / static_cast<double>(onOneSide);
         }
     }
     av_channel_layout_uninit(&input);

@@ -10,8 +10,9 @@
 /// Brings decoded sound to one rate and to at most two channels.
 ///
 /// One channel stays one; more than two are mixed down by the standard coefficients (centre and
-/// surround 3 dB lower, no low-frequency channel, lessened so that nothing is limited). Whole-numbered
-/// samples at the target rate pass unchanged. A change of rate or channels on the way is followed.
+/// surround 3 dB lower, no low-frequency channel, lessened so that nothing is limited).
+/// Whole-numbered samples at the target rate pass unchanged. A change of rate or channels on the
+/// way is followed.
 class SoundShaper
 {
 public:
@@ -38,8 +39,7 @@ private:
     };
 
     SoundBlock convertPiece(const SoundPiece &piece, SampleKind kind);
-    template<typename T>
-    SoundBlock convertPlanes(const SoundPiece &piece, SampleKind kind);
+    template <typename T> SoundBlock convertPlanes(const SoundPiece &piece, SampleKind kind);
     void prepareMix(const AVFrame &frame);
     bool prepareResampler(int inputRate, int channels, SampleKind kind, const Sink &sink);
 

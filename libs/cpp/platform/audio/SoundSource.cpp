@@ -260,8 +260,7 @@ void SoundSource::readGaplessInformation()
         m_hasEdit = static_cast<qint64>(m_stream->time_base.den) == m_edit.timeScale;
         const int count = avformat_index_get_entries_count(m_stream);
         const AVIndexEntry *last = avformat_index_get_entry(m_stream, count - 1);
-        if (m_edit.toTheEnd && last != nullptr
-            && last->timestamp > m_edit.end + MaxPaddingFrames) {
+        if (m_edit.toTheEnd && last != nullptr && last->timestamp > m_edit.end + MaxPaddingFrames) {
             m_edit.end = std::numeric_limits<qint64>::max(); // the stated length is wrong
         }
     }
@@ -477,8 +476,8 @@ bool SoundSource::seek(double seconds)
     }
     const double unitsPerSecond = 1.0 / av_q2d(m_stream->time_base);
     const qint64 target = m_zero + qRound64(qMax(seconds, 0.0) * unitsPerSecond);
-    const qint64 from = qMax(target - qRound64(PrerollSeconds * unitsPerSecond),
-        qMin<qint64>(m_zero, 0));
+    const qint64 from
+        = qMax(target - qRound64(PrerollSeconds * unitsPerSecond), qMin<qint64>(m_zero, 0));
     if (av_seek_frame(m_container.get(), m_stream->index, from, AVSEEK_FLAG_BACKWARD) < 0) {
         return false;
     }

@@ -23,8 +23,8 @@ struct SoundPiece
 
 /// The default sound stream of a media file, demuxed and decoded.
 ///
-/// Other streams and attached pictures are never decoded. Delay and padding that the file states are
-/// cut. A damaged packet is left out. Rate and channels may change from piece to piece.
+/// Other streams and attached pictures are never decoded. Delay and padding that the file states
+/// are cut. A damaged packet is left out. Rate and channels may change from piece to piece.
 class SoundSource
 {
 public:
@@ -48,11 +48,12 @@ public:
     /// Stated or estimated length in seconds; 0 if it isn't known.
     double duration() const;
 
-    /// The next span, never an empty one; with a null frame at the end of the data, again and again.
+    /// The next span, never an empty one; with a null frame at the end of the data, again and
+    /// again.
     SoundPiece next();
 
-    /// Goes on at this time (seconds from the first frame that is heard), to the frame; false if the
-    /// file can't be sought.
+    /// Goes on at this time (seconds from the first frame that is heard), to the frame; false if
+    /// the file can't be sought.
     bool seek(double seconds);
 
 private:
@@ -67,8 +68,7 @@ private:
     static constexpr qint64 UnknownTime = std::numeric_limits<qint64>::min();
 
     SoundSource() = default;
-    SoundSource(const SoundSource &) = delete;
-    SoundSource &operator=(const SoundSource &) = delete;
+    Q_DISABLE_COPY(SoundSource)
 
     OSStatus openContainer();
     OSStatus chooseStream();

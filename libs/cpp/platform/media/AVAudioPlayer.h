@@ -7,9 +7,9 @@ class PlayerEngine;
 
 /// Plays one sound or the sound of one video.
 ///
-/// Opened at once, on any thread and without an event loop; the sound device is opened by play() on a
-/// thread of its own, so that a sound server that doesn't answer holds nobody up. Times are seconds.
-/// One thread at a time may use an object.
+/// Opened at once, on any thread and without an event loop; the sound device is opened by play() on
+/// a thread of its own, so that a sound server that doesn't answer holds nobody up. Times are
+/// seconds. One thread at a time may use an object.
 class AVAudioPlayer
 {
 public:
@@ -52,8 +52,7 @@ public:
 
 private:
     explicit AVAudioPlayer(std::shared_ptr<PlayerEngine> engine);
-    AVAudioPlayer(const AVAudioPlayer &) = delete;
-    AVAudioPlayer &operator=(const AVAudioPlayer &) = delete;
+    Q_DISABLE_COPY(AVAudioPlayer)
 
     std::shared_ptr<PlayerEngine> m_engine;
 };

@@ -10,7 +10,7 @@ namespace {
 constexpr int LowestRate = 8000;
 constexpr int HighestRate = 192000;
 constexpr int UsualRate = 48000;
-constexpr int DecodeFrames = 2048;
+constexpr std::size_t BlockSamples = 4096;
 constexpr double RingSeconds = 0.4;
 constexpr std::chrono::milliseconds PollInterval {20};
 /// A server that hasn't answered for so long won't: the sound has ended.
@@ -89,9 +89,8 @@ double PlayerEngine::currentTime() const
         return m_seekTo;
     }
     const qint64 heard = std::max<qint64>(0, m_framesPlayed + m_silentFrames - m_latencyFrames);
-    const double time
-        = m_baseTime + static_cast<double>(std::min(heard, m_framesPlayed)) / m_rate;
-    return m_loops != 0 && m_duration > 0.0 ? std::fmod(time, m_duration) : time;
+    const double time = m_baseTime + static_cast<double>(std::min(heard, m_framesPlayed)) / m_rate;
+    return m_hasLooped ? std::fmod(time, m_duration) : time;
 }
 
 void PlayerEngine::setCurrentTime(double seconds)
@@ -144,8 +143,9 @@ void PlayerEngine::fill(float *samples, int frames)
     }
     m_gains[0] = wanted[0];
     m_gains[1] = wanted[1];
-    std::fill(samples + 2 * available, samples + 2 * frames, 0.0F);
-    m_ringSize -= 2 * static_cast<std::size_t>(available);
+    const auto played = static_cast<std::size_t>(available);
+    std::fill(samples + 2 * played, samples + 2 * static_cast<std::size_t>(frames), 0.0F);
+    m_ringSize -= 2 * played;
     m_framesPlayed += available;
     if (m_dataEnded && m_ringSize == 0) {
         m_silentFrames += frames - available;
@@ -181,7 +181,7 @@ void PlayerEngine::run()
 
 bool PlayerEngine::needsWork() const
 {
-    const bool hasRoom = m_ring.size() - m_ringSize >= 2 * DecodeFrames;
+    const bool hasRoom = m_ring.size() - m_ringSize >= BlockSamples;
     return m_quits || m_seekPending || (m_releases && m_hasDevice) || (m_playing && !m_hasDevice)
         || (m_playing && !m_dataEnded && hasRoom) || (m_hasDevice && m_playing == m_devicePaused);
 }
@@ -229,10 +229,10 @@ void PlayerEngine::seek(std::unique_lock<std::mutex> &lock)
 
 void PlayerEngine::decode(std::unique_lock<std::mutex> &lock)
 {
-    if (m_dataEnded || m_seekPending || m_ring.size() - m_ringSize < 2 * DecodeFrames) {
+    if (m_dataEnded || m_seekPending || m_ring.size() - m_ringSize < BlockSamples) {
         return;
     }
-    float samples[2 * DecodeFrames];
+    float samples[BlockSamples];
     lock.unlock();
     const int bytes = m_decoder.read(reinterpret_cast<char *>(samples), sizeof(samples));
     lock.lock();
@@ -244,16 +244,23 @@ void PlayerEngine::decode(std::unique_lock<std::mutex> &lock)
         m_ring[(m_ringBegin + m_ringSize + i) % m_ring.size()] = samples[i];
     }
     m_ringSize += count;
-    if (count < 2 * DecodeFrames) {
-        reachEnd();
+    if (count < BlockSamples) {
+        reachEnd(lock);
     }
 }
 
-void PlayerEngine::reachEnd()
+void PlayerEngine::reachEnd(std::unique_lock<std::mutex> &lock)
 {
     m_dataEnded = true;
-    if (m_loops != 0 && m_duration > 0.0 && m_decoder.seek(0.0)) {
+    if (m_loops == 0 || m_duration <= 0.0) {
+        return;
+    }
+    lock.unlock();
+    const bool again = m_decoder.seek(0.0);
+    lock.lock();
+    if (again && !m_seekPending) {
         m_loops -= m_loops > 0 ? 1 : 0;
+        m_hasLooped = true;
         m_dataEnded = false;
     }
 }
@@ -295,4 +302,5 @@ void PlayerEngine::clearRing()
     m_framesPlayed = 0;
     m_silentFrames = 0;
     m_dataEnded = false;
+    m_hasLooped = false;
 }

@@ -8,11 +8,11 @@
 #include <mutex>
 #include <vector>
 
-/// The work behind AVAudioPlayer: one thread that decodes and holds the sound device, started by the
-/// first play().
+/// The work behind AVAudioPlayer: one thread that decodes and holds the sound device, started by
+/// the first play().
 ///
-/// The thread shares the engine's ownership and nobody waits for it: it may hang in the sound server
-/// or in a file. All functions return at once.
+/// The thread shares the engine's ownership and nobody waits for it: it may hang in the sound
+/// server or in a file. All functions return at once.
 class PlayerEngine : public SoundDevice::Client, public std::enable_shared_from_this<PlayerEngine>
 {
 public:
@@ -45,7 +45,7 @@ private:
     void decode(std::unique_lock<std::mutex> &lock);
     void finishIfHeard();
     void watchDevice(std::unique_lock<std::mutex> &lock);
-    void reachEnd();
+    void reachEnd(std::unique_lock<std::mutex> &lock);
     void clearRing();
 
     const int m_rate;
@@ -79,4 +79,5 @@ private:
     qint64 m_framesPlayed = 0; ///< given to the device since then
     qint64 m_silentFrames = 0; ///< given after the end of the data
     bool m_dataEnded = false;
+    bool m_hasLooped = false; ///< since the last seek
 };

@@ -94,7 +94,7 @@ SoundDevice::~SoundDevice()
     }
 }
 
-void SoundDevice::setPaused(bool paused)
+void SoundDevice::setPaused(bool paused) const
 {
     SDL_PauseAudioDevice(m_id, paused ? 1 : 0);
 }
