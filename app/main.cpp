@@ -58,7 +58,8 @@ QStringList pathsFromDesktop()
     QStringList paths;
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     for (const QString &argument : arguments) {
-        const QUrl url(argument);
+        // A name may begin with "file:" as well.
+        const QUrl url(argument.startsWith(u"file:/"_qs) ? argument : QString());
         paths << QFileInfo(url.isLocalFile() ? url.toLocalFile() : argument).absoluteFilePath();
     }
     return paths;

@@ -84,9 +84,15 @@ void ListView::scrollTo(const QModelIndex &index, ScrollHint hint)
 
 void ListView::updateGeometries()
 {
+    // The bar goes by what the overlay leaves free. Left to the base class, which goes by the whole
+    // height, it would come and go without end for rows that fit the one and not the other.
+    const int covered = contentsSize().height() - clearHeight();
+    setVerticalScrollBarPolicy(covered > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    const int value = verticalScrollBar()->value();
     QListView::updateGeometries();
     horizontalScrollBar()->setRange(0, 0);
-    verticalScrollBar()->setMaximum(std::max(0, contentsSize().height() - clearHeight()));
+    verticalScrollBar()->setMaximum(std::max(0, covered));
+    verticalScrollBar()->setValue(value);
 }
 
 QStyleOptionViewItem ListView::viewOptions() const

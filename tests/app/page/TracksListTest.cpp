@@ -189,3 +189,26 @@ TEST_F(TracksListTest, TakesDropsOfFilesAsCopies)
     EXPECT_EQ(dropped.first().first().value<QList<QUrl>>(), files.urls());
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
 }
+
+TEST_F(TracksListTest, ComesToRestWhenTheLastRowIsUnderTheOverlay)
+{
+    QWidget overlay(&m_view);
+    overlay.resize(200, 30);
+    m_view.setLowerOverlay(&overlay);
+    m_view.show();
+    // From rows that fit by far to rows that don't; one of them ends under the overlay.
+    for (int height = 180; height <= 260; height += 10) {
+        m_view.resize(420, height);
+        setTracks(4);
+        QTest::qWait(1);
+        const QSignalSpy changes(m_view.verticalScrollBar(), &QScrollBar::rangeChanged);
+        for (int i = 0; i < 20; ++i) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        }
+        EXPECT_LE(changes.size(), 2) << height;
+        m_view.setCurrentIndex(m_model.index(3));
+        m_view.scrollTo(m_model.index(3));
+        EXPECT_LE(m_view.visualRect(m_model.index(3)).bottom(), m_view.viewport()->height() - 30)
+            << height;
+    }
+}

@@ -6,12 +6,42 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
+#include <QVector>
+#include <utility>
 
 namespace QMMultiMedia {
 
 namespace {
 
 constexpr qint64 paintIntervalMs = 40;
+
+/// Keeps widgets at their size while their texts change in quick succession.
+///
+/// A text that may change the layout is measured for every folder, whether it is painted or not:
+/// that was more than half of a scan's time.
+class SizeKeeper
+{
+public:
+    explicit SizeKeeper(QVector<QWidget *> widgets)
+        : m_widgets(std::move(widgets))
+    {
+        for (QWidget *widget : qAsConst(m_widgets)) {
+            widget->setFixedSize(widget->size());
+        }
+    }
+
+    ~SizeKeeper()
+    {
+        for (QWidget *widget : qAsConst(m_widgets)) {
+            widget->setMinimumSize(0, 0);
+            widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(SizeKeeper)
+    QVector<QWidget *> m_widgets;
+};
 
 }
 
@@ -49,6 +79,8 @@ void MediaSearchDialog::slotStart()
     }
     {
         const QScopedValueRollback<bool> searching(m_bSearching, true);
+        const SizeKeeper keeper(
+            isVisible() ? QVector<QWidget *> {m_plblFile, m_plblCounters} : QVector<QWidget *>());
         m_sincePainted.start();
         search();
     }

@@ -76,7 +76,10 @@ void TranslationsManager::setTranslation(const QString &strLanguage)
     m_strLanguage = strLanguage;
     QGuiApplication::setLayoutDirection(
         strLanguage == u"ar"_qs ? Qt::RightToLeft : Qt::LeftToRight);
-    App::setSettingsValue(languageKey(), strLanguage);
+    if (App::settingsValue(languageKey(), QString()).toString() != strLanguage) {
+        // A start that only hands its files over would wait for its turn to write the store.
+        App::setSettingsValue(languageKey(), strLanguage);
+    }
     App::setCurrentLanguage(strLanguage);
 }
 
