@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>परिचय</translation>
+        <translation>ऐप के बारे में</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H2&gt;The newer version </source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>परिचय</translation>
+        <translation>ऐप के बारे में</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>About</source>
-        <translation>परिचय</translation>
+        <translation>ऐप के बारे में</translation>
     </message>
 </context>
 <context>
