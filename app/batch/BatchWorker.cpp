@@ -309,11 +309,22 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
 
     openDecoder(input);
     ChunkEffects effects(plan);
-    runSampleLoop(generalOutput, effects);
+    const qint64 delivered = runSampleLoop(generalOutput, effects);
     hintNextFile();
+    if (delivered == 0) {
+        generalOutput.setMetaInfoFile(QString());
+    }
     generalOutput.close();
     m_pDecoder->finish();
+    if (delivered == 0) {
+        // The source vanished after the analysis: a file without a sound isn't its conversion.
+        QFile::remove(generalOutput.outputFile());
+        QFile::remove(output);
+        m_errors += tr("Can not convert: ") + input + u"\n"_qs;
+        return;
+    }
 
+    m_receipt.isCut = delivered < m_numSamples;
     m_receipt.lengthMs = perSecond > 0 ? m_numSamples * 1000 / perSecond : 0;
     m_receipt.gainDb = plan.gain > 0.0f ? 20.0 * std::log10(static_cast<double>(plan.gain)) : 0.0;
     m_receipt.tags = generalOutput.tagReceipt();
@@ -322,7 +333,8 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
     }
 }
 
-void BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
+/// Returns how many values the decoder delivered; all of them if the end was trimmed.
+qint64 BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
 {
     Chunk chunk;
     qint64 position = 0;
@@ -333,7 +345,7 @@ void BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
         }
         const int count = m_pDecoder->read(chunk.data(), chunkSize);
         if (count <= 0) {
-            return;
+            return position;
         }
         position += count;
         const int percent = static_cast<int>(
@@ -347,7 +359,7 @@ void BatchWorker::runSampleLoop(GeneralOutput &output, ChunkEffects &effects)
             output.write(result.values, result.count);
         }
         if (result.last) {
-            return;
+            return m_numSamples;
         }
     }
 }

@@ -94,7 +94,7 @@ private:
     bool waitForFreeSpace(const QString &output);
     bool hasFreeSpace(const QString &output) const;
     void convertDecoded(const QString &input, const QString &output);
-    void runSampleLoop(GeneralOutput &output, ChunkEffects &effects);
+    qint64 runSampleLoop(GeneralOutput &output, ChunkEffects &effects);
     bool openDecoder(const QString &input);
     qint64 sizeInBits() const { return m_settings.bitsPerSample * m_numSamples; }
     void hintNextFile();

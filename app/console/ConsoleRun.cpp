@@ -118,10 +118,15 @@ bool ConsoleRun::prepareDestination() const
     if (!m_arguments.destination.isEmpty()) {
         QMWidgets::App::overrideSettingsValue(u"DestinationPath"_qs, m_arguments.destination);
     }
-    const QString destination = QMWidgets::App::settingsValue(
+    QString destination = QMWidgets::App::settingsValue(
         u"DestinationPath"_qs, QMWidgets::App::musicDirectory(false))
-                                    .toString();
-    if (isWritableFolder(destination)) {
+                              .toString();
+    if (!destination.endsWith(u'/')) {
+        destination += u'/';
+        QMWidgets::App::overrideSettingsValue(u"DestinationPath"_qs, destination);
+    }
+    // A path of the store that isn't absolute would lie wherever the program was started.
+    if (QDir::isAbsolutePath(destination) && isWritableFolder(destination)) {
         return true;
     }
     say(u"calderin-m4a-batch: the destination can't be written: "_qs + destination);
@@ -249,7 +254,8 @@ void ConsoleRun::report() const
         if (AppSettingsDialog::normalizationActive()) {
             line += QString::asprintf("%+.1f dB  ", receipt.gainDb);
         }
-        say(line + realBitRate(receipt) + lostTags(receipt));
+        const QString cut = receipt.isCut ? u"  cut: the source changed meanwhile"_qs : QString();
+        say(line + realBitRate(receipt) + cut + lostTags(receipt));
     }
     if (!m_errors.isEmpty()) {
         std::fputs(errorLines().toLocal8Bit().constData(), stderr);

@@ -127,6 +127,26 @@ TEST_F(BatchWorkerTest, MapsFoldersAsTheLastDroppedUrlHasThem)
     }
 }
 
+TEST_F(BatchWorkerTest, TellsOfSourcesThatChangeBetweenTheReadings)
+{
+    const QVector<QString> files {tone(u"gone.wav"_qs), tone(u"cut.wav"_qs), tone(u"kept.wav"_qs)};
+    const auto change = [&files](const QString &text) {
+        if (text == u"gone"_qs) {
+            QFile::remove(files.at(0));
+        } else if (text == u"cut"_qs) {
+            QFile::resize(files.at(1), 44 + 88200);
+        }
+    };
+    QObject::connect(m_worker, &BatchWorker::currentFile, m_worker, change, Qt::DirectConnection);
+    const QString folder = run(files);
+    EXPECT_EQ(log(), u"Can not convert: "_qs + files.at(0) + u"\n"_qs);
+    EXPECT_EQ(filesBelow(folder), QStringList({u"in/cut.m4a"_qs, u"in/kept.m4a"_qs}));
+    ASSERT_EQ(m_worker->receipts().size(), 3);
+    EXPECT_TRUE(m_worker->receipts().at(0).output.isEmpty());
+    EXPECT_TRUE(m_worker->receipts().at(1).isCut);
+    EXPECT_FALSE(m_worker->receipts().at(2).isCut);
+}
+
 TEST_F(BatchWorkerTest, ConvertsWithCollisionsSubfoldersErrorsAndSideFiles)
 {
     set(u"KeyCopyTextssActive"_qs, true);
