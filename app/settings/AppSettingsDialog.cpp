@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLCDNumber>
@@ -64,6 +65,14 @@ constexpr BitRateRule BitRateRules[] = {
     {96001, 128000, NoLimit, 16000, 22050},
     {64001, 96000, NoLimit, 11025, 16000},
 };
+
+/// An English text keeps its order in a window that runs from right to left.
+QString inOwnDirection(const QString &text)
+{
+    const QChar embedding(0x202A);
+    const QChar end(0x202C);
+    return QGuiApplication::isRightToLeft() ? embedding + text + end : text;
+}
 
 void selectValue(QComboBox *box, int value)
 {
@@ -137,7 +146,7 @@ void AppSettingsDialog::createFormatBoxes()
     const int highestRate = currentVariant() == Variant::Mp3 ? 48000 : NoLimit;
     for (const AppSettings::Rate &rate : AppSettings::SampleRates) {
         if (rate.value <= highestRate) {
-            m_pcbxSampleRate->addItem(QString::fromLatin1(rate.text), rate.value);
+            m_pcbxSampleRate->addItem(inOwnDirection(QString::fromLatin1(rate.text)), rate.value);
         }
     }
 
@@ -353,6 +362,10 @@ QWidget *AppSettingsDialog::effectsTab()
     m_pfadeOut = new FadeWidget(false, m_pgrpFade);
     auto *fade = new QHBoxLayout(m_pgrpFade);
     fade->setContentsMargins(25, 25, 25, 25);
+    if (isRightToLeft()) {
+        // Their pictures run from left to right in every language, as time does on players.
+        fade->setDirection(QBoxLayout::RightToLeft);
+    }
     for (FadeWidget *widget : {m_pfadeIn, m_pfadeOut}) {
         widget->setRange({0, LongestFadeSeconds});
         fade->addWidget(widget);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocumentFragment>
+#include <QtMath>
 
 namespace QMMultiMedia {
 
@@ -48,7 +49,8 @@ QSize ElidedLabel::minimumSizeHint() const
 
 QSize ElidedLabel::sizeHint() const
 {
-    return sizeFor(QFontMetrics(drawnFont()).horizontalAdvance(plainText()));
+    // Rounded up: a fraction of a pixel less, and the text would be shortened.
+    return sizeFor(qCeil(QFontMetricsF(drawnFont()).horizontalAdvance(plainText())));
 }
 
 void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
@@ -57,6 +59,8 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
     drawFrame(&painter);
     const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     painter.setFont(drawnFont());
+    // A name runs as its own letters do, whatever the language of the window.
+    painter.setLayoutDirection(plainText().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     style()->drawItemText(&painter, area,
         static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())), palette(),
         isEnabled(), painter.fontMetrics().elidedText(plainText(), Qt::ElideMiddle, area.width()),

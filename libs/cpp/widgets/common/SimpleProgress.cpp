@@ -126,6 +126,8 @@ void SimpleProgress::drawText(QPainter *pp) const
     if (m_strText.isEmpty()) {
         return;
     }
+    // The name of a file runs as its own letters do.
+    pp->setLayoutDirection(m_strText.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const QString str = fontMetrics().elidedText(m_strText, Qt::ElideMiddle, width() - 8);
     // The outline keeps the text readable on grey and on green alike. It is drawn as text, not as a
     // path: the pictures of a colour font have no outlines.
