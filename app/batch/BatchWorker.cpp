@@ -8,13 +8,13 @@
 #include "GeneralOutput.h"
 #include "Literals.h"
 #include "NativeAudioDecoder.h"
+#include "RunFolder.h"
 #include "SignalScan.h"
 #include "ToolsCommon.h"
 
 #include <array>
 #include <cmath>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -83,9 +83,8 @@ void BatchWorker::slotDoWork()
         = QMWidgets::App::settingsValue(u"DestinationPath"_qs, QMWidgets::App::musicDirectory(true))
               .toString();
     const int total = m_inputFiles.size() + copyStages().size();
-    const QString runFolder
-        = destination + QDateTime::currentDateTime().toString(u"yyyy-MM-dd_hh-mm-ss"_qs) + u"/"_qs;
-    QMWidgets::App::ensureDirExists(runFolder);
+    const RunFolder folder(destination);
+    const QString runFolder = folder.path();
 
     convertInputFiles(runFolder, total);
     copySideFiles(runFolder, total);
