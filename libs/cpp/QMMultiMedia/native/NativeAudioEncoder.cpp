@@ -9,7 +9,7 @@ namespace QMMultiMedia {
 int setBitRate(ExtAudioFileRef file, unsigned int bitRate)
 {
     AudioConverterRef converter = nullptr;
-    UInt32 size = sizeof(converter);
+    UInt32 size = sizeof(converter); // NOLINT(bugprone-sizeof-expression): the handle is the value
     const OSStatus found
         = ExtAudioFileGetProperty(file, kExtAudioFileProperty_AudioConverter, &size, &converter);
     if (found != noErr) {

@@ -208,7 +208,7 @@ OSStatus ExtAudioFileGetProperty(
     UInt32 size = sizeof(format);
     if (id == kExtAudioFileProperty_AudioConverter && converter != nullptr) {
         value = &converter; // the handle itself is the value
-        size = sizeof(converter);
+        size = sizeof(converter); // NOLINT(bugprone-sizeof-expression)
     } else if (id != kExtAudioFileProperty_ClientDataFormat) {
         return kAudioFileUnsupportedPropertyError;
     }
