@@ -43,7 +43,8 @@ private:
 TEST(AFTransCoder, StartsTheConverterWithItsArguments)
 {
     const StandIn standIn(u"afconvert"_qs,
-        "printf '%s\\n' \"$@\" >\"$STANDIN/said\"; cut -d' ' -f5 /proc/$$/stat >\"$STANDIN/group\"\n");
+        "printf '%s\\n' \"$@\" >\"$STANDIN/said\"; cut -d' ' -f5 /proc/$$/stat "
+        ">\"$STANDIN/group\"\n");
     QMMultiMedia::AFTransCoder coder;
     for (const QString &name : {u"plain"_qs, u"two  blanks"_qs, u"x\" -o \"y"_qs, u"Лёд 'é'"_qs}) {
         const QString source = u"/in/"_qs + name + u".wav"_qs;
