@@ -22,6 +22,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTabWidget>
+#include <QTimer>
 
 namespace {
 
@@ -480,6 +481,13 @@ void AppSettingsDialog::showEvent(QShowEvent *event)
     slotLoadSettings();
     fitToScreen();
     QDialog::showEvent(event);
+    // By then the window manager has told how large its frame is.
+    QTimer::singleShot(250, this, [this] {
+        const int top = screen()->availableGeometry().top();
+        if (frameGeometry().top() < top) {
+            move(x(), top);
+        }
+    });
 }
 
 void AppSettingsDialog::fitToScreen()
