@@ -10,6 +10,7 @@
 #include "PlayListModel.h"
 #include "SoundServer.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <QElapsedTimer>
@@ -23,46 +24,37 @@ using namespace QMMultiMedia;
 
 namespace {
 
-/// What a stretch of the recording holds, per channel.
+/// What a stretch of the recording holds. A busy machine leaves gaps in it: they don't count.
 struct Heard
 {
-    double seconds = 0.0; ///< from the first sound to the last
-    double amplitude[2] = {0.0, 0.0}; ///< of a sine of the same power
-    double lowSeconds = 0.0; ///< how long a tone below 1 kHz sounds
+    double seconds = 0.0; ///< with sound
+    double lowSeconds = 0.0; ///< with a tone below 1 kHz
+    double amplitude[2] = {0.0, 0.0}; ///< of the sines in the left and right channel
 };
 
 Heard analyse(const std::vector<float> &samples)
 {
     constexpr double Silence = 1e-3;
-    std::size_t first = samples.size();
-    std::size_t last = 0;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        if (std::abs(samples[i]) > Silence) {
-            first = std::min(first, i & ~std::size_t(1));
-            last = i | 1U;
-        }
-    }
+    constexpr std::size_t Block = SoundServer::Rate / 100; // 10 ms
+    std::vector<double> peaks[2];
     Heard heard;
-    if (first >= last) {
-        return heard;
-    }
-    heard.seconds = double(last - first) / 2 / SoundServer::Rate;
-    double power[2] = {0.0, 0.0};
-    int crossings = 0;
-    std::size_t lastCrossing = first;
-    for (std::size_t i = first; i <= last; ++i) {
-        power[i % 2] += double(samples[i]) * samples[i];
-        if (i % 2 == 0 && i >= first + 2 && samples[i - 2] < 0 && samples[i] >= 0) {
-            const auto period = double(i - lastCrossing) / 2;
-            if (period > SoundServer::Rate / 1000.0 && period < SoundServer::Rate / 100.0) {
-                heard.lowSeconds += period / SoundServer::Rate;
-            }
-            lastCrossing = i;
-            ++crossings;
+    for (std::size_t begin = 0; begin + 2 * Block <= samples.size(); begin += 2 * Block) {
+        double peak[2] = {0.0, 0.0};
+        int crossings = 0;
+        for (std::size_t i = begin; i < begin + 2 * Block; ++i) {
+            peak[i % 2] = std::max<double>(peak[i % 2], std::abs(samples[i]));
+            crossings += i >= begin + 2 && samples[i - 2] < 0 && samples[i] >= 0 ? 1 : 0;
+        }
+        if (std::max(peak[0], peak[1]) > Silence) {
+            heard.seconds += 0.01;
+            heard.lowSeconds += crossings <= 20 ? 0.01 : 0.0;
+            peaks[0].push_back(peak[0]);
+            peaks[1].push_back(peak[1]);
         }
     }
-    for (int side = 0; side < 2; ++side) {
-        heard.amplitude[side] = std::sqrt(2 * power[side] / (double(last - first + 1) / 2));
+    for (int side = 0; side < 2 && !peaks[side].empty(); ++side) {
+        std::sort(peaks[side].begin(), peaks[side].end());
+        heard.amplitude[side] = peaks[side][peaks[side].size() / 2];
     }
     return heard;
 }
@@ -169,8 +161,11 @@ TEST_F(AudioPlayerTest, CountsVolumeMuteAndPositionToTheNumber)
 
 TEST_F(AudioPlayerTest, KeepsVolumeAndMuteInTheSettings)
 {
+    delete AudioListPlayer::instance();
+    delete AudioPlayer::instance();
+    QMWidgets::App::setSettingsValue(u"/SoundVolume"_qs, 0.5);
     AudioPlayer *player = AudioPlayer::instance();
-    EXPECT_EQ(player->volume(), 0.0); // the default, 0.5, is truncated
+    EXPECT_EQ(player->volume(), 0.0); // truncated
     QSignalSpy stopped(player, &AudioPlayer::stopped);
     player->setVolume(73.0);
     player->stop();
@@ -250,7 +245,7 @@ TEST_F(AudioPlayerTest, SoundsAsAskedAndEndsByItself)
     QSignalSpy moved(&player, &NativeAudioPlayer::positionChanged);
     player.play(file(u"short.wav"_qs));
     EXPECT_TRUE(MediaMaker::waitFor([&] { return finished.count() == 1; }));
-    EXPECT_NEAR(analyse(record(server, 0.55)).seconds, 0.6, 0.03);
+    EXPECT_NEAR(analyse(record(server, 0.55)).seconds, 0.6, 0.05);
     EXPECT_GE(moved.count(), 1);
     EXPECT_EQ(player.duration(), 0); // the player is gone
 
@@ -290,8 +285,8 @@ TEST_F(AudioPlayerTest, PausesGoesOnAndSeeksToThePlace)
         EXPECT_TRUE(player->isPaused());
         const qint64 paused = player->position();
         ASSERT_TRUE(becomesSilent(server, &heard));
-        EXPECT_NEAR(double(player->position()), double(paused), 60.0);
-        EXPECT_NEAR(paused, 4300 + 1000 * analyse(heard).seconds, 90.0);
+        EXPECT_EQ(player->position(), paused);
+        EXPECT_NEAR(double(paused), 4300 + 1000 * analyse(heard).seconds, 60.0);
         player->play();
         const std::vector<float> rest = record(server, 0.8);
         // 0.7 s from the sought place to the change of the tone, nothing lost by the pause.

@@ -54,6 +54,7 @@ void PlayerEngine::pause()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_playing = false;
+    m_framesHeard = m_framesPlayed; // what the device still holds sounds on
     m_changed.notify_all();
 }
 
@@ -88,7 +89,7 @@ double PlayerEngine::currentTime() const
     if (m_seekPending) {
         return m_seekTo;
     }
-    const qint64 heard = std::max<qint64>(0, m_framesPlayed + m_silentFrames - m_latencyFrames);
+    const qint64 heard = std::max(m_framesHeard, m_framesPlayed + m_silentFrames - m_latencyFrames);
     const double time = m_baseTime + static_cast<double>(std::min(heard, m_framesPlayed)) / m_rate;
     return m_hasLooped ? std::fmod(time, m_duration) : time;
 }
@@ -300,6 +301,7 @@ void PlayerEngine::clearRing()
     m_ringBegin = 0;
     m_ringSize = 0;
     m_framesPlayed = 0;
+    m_framesHeard = 0;
     m_silentFrames = 0;
     m_dataEnded = false;
     m_hasLooped = false;

@@ -77,6 +77,7 @@ private:
     std::size_t m_ringSize = 0; ///< in samples
     double m_baseTime = 0.0; ///< time of the first frame since the last seek
     qint64 m_framesPlayed = 0; ///< given to the device since then
+    qint64 m_framesHeard = 0; ///< at least, since then
     qint64 m_silentFrames = 0; ///< given after the end of the data
     bool m_dataEnded = false;
     bool m_hasLooped = false; ///< since the last seek
