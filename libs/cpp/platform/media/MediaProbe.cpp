@@ -100,7 +100,10 @@ MediaSummary mediaSummary(const QString &path)
     for (unsigned i = 0; i < context->nb_streams; ++i) {
         const AVStream &stream = *context->streams[i];
         const AVMediaType type = stream.codecpar->codec_type;
-        if ((type == AVMEDIA_TYPE_AUDIO || (type == AVMEDIA_TYPE_VIDEO && !isPicture(stream)))
+        // Any text can be taken for the recording of a terminal.
+        const bool isMovie = type == AVMEDIA_TYPE_VIDEO && !isPicture(stream)
+            && stream.codecpar->codec_id != AV_CODEC_ID_ANSI;
+        if ((type == AVMEDIA_TYPE_AUDIO || isMovie)
             && avcodec_find_decoder(stream.codecpar->codec_id) != nullptr) {
             summary.isPlayable = true;
         }
