@@ -198,7 +198,13 @@ void takeDialogs(const Photographer &photographer)
     takeDialog<QMWidgets::RateAppStoreDialog>(photographer, u"rate"_qs);
     takeDialog<QMWidgets::TellDialog>(photographer, u"share"_qs);
     takeDialog<QMWidgets::JoinDialog>(photographer, u"join"_qs);
-    takeDialog<QMWidgets::HelpDialog>(photographer, u"introduction"_qs);
+    QMWidgets::HelpDialog introduction(nullptr);
+    const QStringList slides = QMWidgets::App::introductionSlides();
+    for (const QString &slide : slides) {
+        introduction.addSlide(slide);
+    }
+    introduction.show();
+    photographer.take(u"introduction"_qs, &introduction, 600);
     takeDialog<AppUpdateDialog>(photographer, u"update"_qs);
     takeDialog<QMMultiMedia::MediaSearchDialog>(photographer, u"search"_qs);
     takeDialog<QMWidgets::CssEditor>(photographer, u"style-editor"_qs);
@@ -224,9 +230,13 @@ int main(int argc, char **argv)
     app.setStyleSheet(converterStyleSheet());
     app.setQuitOnLastWindowClosed(false);
     QDir().mkpath(arguments.at(1));
+    const QString language = arguments.at(2);
+    const QString slideLanguage
+        = language == u"de"_qs || language == u"ru"_qs ? language : u"en"_qs;
     QStringList slides;
     for (int n = 1; n <= 8; ++n) {
-        slides << QMWidgets::App::bundleResourcePath() + u"Slide%1_en.jpg"_qs.arg(n);
+        slides << QMWidgets::App::bundleResourcePath()
+                + u"Slide%1_%2.jpg"_qs.arg(QString::number(n), slideLanguage);
     }
     QMWidgets::App::setIntroductionSlides(slides);
     const Photographer photographer(arguments.at(1), arguments.mid(3));
