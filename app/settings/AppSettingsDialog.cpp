@@ -1,3 +1,4 @@
+// Over 500 lines: the two pages, the rules between their boxes and the storing are read side by side.
 #include "AppSettingsDialog.h"
 
 #include "App.h"
