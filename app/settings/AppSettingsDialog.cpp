@@ -1,4 +1,4 @@
-// Over 500 lines: the two pages, the rules between their boxes and the storing are read side by side.
+// Over 500 lines: the two pages, the rules between their boxes and the storing are read together.
 #include "AppSettingsDialog.h"
 
 #include "App.h"
