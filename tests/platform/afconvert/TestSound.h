@@ -11,7 +11,8 @@
 namespace TestSound {
 
 /// Tones with decays, attacks of noise and pauses; 16 bits, interleaved, the channels differ.
-inline std::vector<std::int16_t> music(int sampleRate, int channels, std::int64_t frames)
+inline std::vector<std::int16_t> music(
+    int sampleRate, int channels, std::int64_t frames, double noisiness = 1)
 {
     std::minstd_rand random(7);
     std::vector<std::int16_t> samples;
@@ -19,7 +20,8 @@ inline std::vector<std::int16_t> music(int sampleRate, int channels, std::int64_
         const double t = static_cast<double>(i) / sampleRate;
         const double beat = std::fmod(t, 0.4);
         const double loudness = std::fmod(t, 11.0) < 9 ? 1.0 : 0.02;
-        const double noise = static_cast<double>(random()) / std::minstd_rand::max() - 0.5;
+        const double noise
+            = noisiness * (static_cast<double>(random()) / std::minstd_rand::max() - 0.5);
         for (int channel = 0; channel < channels; ++channel) {
             const double pitch = 110.0 * (1 + channel * 0.26) * (1 + std::floor(std::fmod(t, 3.2)));
             const double value = 0.3 * std::sin(6.2832 * pitch * t) * std::exp(-4 * beat)

@@ -3,6 +3,7 @@
 #include "ConvertError.h"
 #include "WavSource.h"
 #include <algorithm>
+#include <cmath>
 #include <new>
 #include <random>
 
@@ -22,10 +23,53 @@ constexpr std::array<int, 13> aacRates {
 constexpr std::int64_t maxBitsPerChannelAndPacket = 6144;
 
 // Blocks of real sound in front of a segment, until its packets are those of a running encoder.
-constexpr int runUpBlocks = 16;
+// Before the very beginning there is none: the first blocks do it.
+constexpr int runUpBlocks = 12;
+constexpr int runUpBlocksOfTheBeginning = 4;
 
-constexpr int noiseBlocks = 12;
-constexpr int silentBlocks = 3;
+constexpr int noiseBlocks = 4;
+constexpr int noiseBlocksAtHighestRate = 3;
+
+constexpr std::int64_t highestBitRate(const AacFormat &format)
+{
+    return maxBitsPerChannelAndPacket * format.channels * format.sampleRate / packetFrames;
+}
+
+// Bits that the first packets of a segment borrow from the others: an encoder begins with a full
+// bit reservoir, which the priming has emptied. So the error behind a joint stays below that of an
+// encoder that has come all the way.
+class Loan
+{
+public:
+    explicit Loan(std::int64_t packets)
+        : m_rest(std::max<std::int64_t>(packets - full - fading, 1))
+        , m_share(std::min(highestShare, highestRepayment * static_cast<double>(m_rest) / amount))
+        , m_repayment(m_share * amount / static_cast<double>(m_rest))
+    {
+    }
+
+    /// The factor of the bit rate for a packet, counted from the first one of the segment.
+    double factor(std::int64_t packet) const
+    {
+        if (packet < -lead) {
+            return 1;
+        }
+        const double size = 1.0 - static_cast<double>(packet - full) / fading;
+        return size <= 0 ? 1 - m_repayment : 1 + m_share * std::min(size, 1.0);
+    }
+
+private:
+    static constexpr int lead = 7; ///< packets of the run-up that have the larger size already
+    static constexpr int full = 7; ///< packets with the whole share
+    static constexpr int fading = 16; ///< packets in which it goes down to nothing
+    static constexpr double amount = full + fading / 2.0;
+    static constexpr double highestShare = 0.12;
+    static constexpr double highestRepayment = 0.01;
+
+    std::int64_t m_rest;
+    double m_share;
+    double m_repayment;
+};
 
 }
 
@@ -37,7 +81,7 @@ void AacFormat::check() const
     if (channels < 1 || channels > 2) {
         throw ConvertError(std::to_string(channels) + " channels: only 1 or 2 are supported");
     }
-    const std::int64_t highest = maxBitsPerChannelAndPacket * channels * sampleRate / packetFrames;
+    const std::int64_t highest = highestBitRate(*this);
     if (bitRate > highest) {
         throw ConvertError("-b " + std::to_string(bitRate) + ": AAC carries at most "
             + std::to_string(highest) + " bit/s at " + std::to_string(sampleRate) + " Hz with "
@@ -72,6 +116,7 @@ void AacEncoder::Deleter::operator()(AVPacket *packet) const
 }
 
 AacEncoder::AacEncoder(const AacFormat &format)
+    : m_format(format)
 {
     av_log_set_level(AV_LOG_QUIET);
     const AVCodec *codec = avcodec_find_encoder_by_name("aac");
@@ -132,23 +177,22 @@ bool AacEncoder::push()
 }
 
 // A fresh encoder spends up to 2.5 times the time on each packet, at worse quality, until its
-// psychoacoustic state has seen a shortage of bits. Loud noise with attacks brings that about; the
-// silence behind it clears the overlap.
+// psychoacoustic model has seen a shortage of bits. Noise at the highest bit rate brings that about
+// at once, and noise at the real one leads back to usual quantizers. There must be no silence
+// behind it: the model remembers the least demanding block for hundreds of packets, in which
+// everything comes out worse.
 void AacEncoder::prime()
 {
     std::minstd_rand random(1);
     const auto span = static_cast<float>(std::minstd_rand::max() - std::minstd_rand::min());
-    for (int block = 0; block < noiseBlocks + silentBlocks; ++block) {
+    for (int block = 0; block < noiseBlocks; ++block) {
+        m_context->bit_rate
+            = block < noiseBlocksAtHighestRate ? highestBitRate(m_format) : m_format.bitRate;
         float *const *planes = nextBlock();
-        for (int channel = 0; channel < m_context->ch_layout.nb_channels; ++channel) {
-            for (int i = 0; i < packetFrames; ++i) {
-                const float noise
-                    = static_cast<float>(random() - std::minstd_rand::min()) / span - 0.5F;
-                const bool attenuated = block % 4 == 3 && i < packetFrames / 2;
-                planes[channel][i] = block >= noiseBlocks ? 0.0F
-                    : attenuated                          ? noise * 0.01F
-                                                          : noise;
-            }
+        for (int channel = 0; channel < m_format.channels; ++channel) {
+            std::generate_n(planes[channel], packetFrames, [&random, span] {
+                return static_cast<float>(random() - std::minstd_rand::min()) / span - 0.5F;
+            });
         }
         push();
     }
@@ -157,11 +201,24 @@ void AacEncoder::prime()
 void AacEncoder::encode(
     const WavSource &source, std::int64_t firstPacket, std::int64_t endPacket, const Sink &sink)
 {
-    prime();
     std::vector<std::uint8_t> scratch;
-    for (std::int64_t block = firstPacket - 1 - runUpBlocks; block <= endPacket; ++block) {
+    const auto pushBlock = [this, &source, &scratch](std::int64_t block) {
         source.read(block * packetFrames, packetFrames, nextBlock(), scratch);
-        if (push() && block > firstPacket) {
+        return push();
+    };
+    const Loan loan(endPacket - firstPacket);
+    prime();
+    std::int64_t block = firstPacket - 1 - runUpBlocks;
+    if (firstPacket == 0) {
+        for (block = 0; block < runUpBlocksOfTheBeginning; ++block) {
+            pushBlock(block);
+        }
+        block = -1;
+    }
+    for (; block <= endPacket; ++block) {
+        const std::int64_t packet = block - 1;
+        m_context->bit_rate = std::llround(m_format.bitRate * loan.factor(packet - firstPacket));
+        if (pushBlock(block) && packet >= firstPacket) {
             sink(m_packet->data, static_cast<std::size_t>(m_packet->size));
         }
     }

@@ -69,6 +69,7 @@ private:
     float *const *nextBlock();
     bool push();
 
+    AacFormat m_format;
     std::unique_ptr<AVCodecContext, Deleter> m_context;
     std::unique_ptr<AVFrame, Deleter> m_frame;
     std::unique_ptr<AVPacket, Deleter> m_packet;

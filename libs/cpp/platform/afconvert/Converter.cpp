@@ -5,6 +5,7 @@
 #include "M4aWriter.h"
 #include "OutputFile.h"
 #include "ParallelEncoder.h"
+#include "Segments.h"
 #include "WavSource.h"
 #include <algorithm>
 #include <sched.h>
@@ -48,11 +49,13 @@ void Converter::convert(const Job &job)
     const AacEncoder::Sink sink
         = [&writer](const std::uint8_t *bytes, std::size_t count) { writer.add(bytes, count); };
     const int threads = job.threads > 0 ? job.threads : usableCores();
-    const auto starts = ParallelEncoder::segmentStarts(packets, format, threads);
+    const auto starts = Segments::evenStarts(packets, format, threads);
     if (threads == 1 || starts.size() == 1) {
         AacEncoder(format).encode(source, 0, packets, sink);
     } else {
-        ParallelEncoder(source, format, starts, threads).encode(sink);
+        ParallelEncoder(
+            source, format, Segments::steadyStarts(source, format, packets, starts), threads)
+            .encode(sink);
     }
     writer.finish();
     M4aCheck::verify(file.temporaryPath(), source.frames(), packets);

@@ -7,37 +7,6 @@
 #include <system_error>
 #include <utility>
 
-namespace {
-
-constexpr int shortestSeconds = 10;
-constexpr int longestSeconds = 120;
-// Bytes of packets that may wait for their turn.
-constexpr std::int64_t waitingBytes = std::int64_t {16} << 20;
-
-}
-
-std::vector<std::int64_t> ParallelEncoder::segmentStarts(
-    std::int64_t packets, const AacFormat &format, int threads)
-{
-    const std::int64_t shortest
-        = static_cast<std::int64_t>(shortestSeconds) * format.sampleRate / packetFrames;
-    std::int64_t longest
-        = static_cast<std::int64_t>(longestSeconds) * format.sampleRate / packetFrames;
-    const std::int64_t packetBytes = std::max<std::int64_t>(
-        1, static_cast<std::int64_t>(format.bitRate) * packetFrames / format.sampleRate / 8);
-    longest = std::clamp(waitingBytes / (packetBytes * (threads + 2)), shortest, longest);
-
-    // The same number for every thread, as far as the segments don't get too short.
-    std::int64_t count = std::max<std::int64_t>((packets + longest - 1) / longest, threads);
-    count = (count + threads - 1) / threads * threads;
-    count = std::clamp<std::int64_t>(packets / shortest, 1, count);
-    std::vector<std::int64_t> starts;
-    for (std::int64_t i = 0; i < count; ++i) {
-        starts.push_back(packets / count * i + packets % count * i / count);
-    }
-    return starts;
-}
-
 ParallelEncoder::ParallelEncoder(const WavSource &source, const AacFormat &format,
     std::vector<std::int64_t> segmentStarts, int threads)
     : m_source(source)

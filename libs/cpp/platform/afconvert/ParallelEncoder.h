@@ -21,7 +21,7 @@ class WavSource;
 class ParallelEncoder
 {
 public:
-    /// Segments that begin with the packets of these numbers; the first is 0. The source must
+    /// Segments that begin with the packets of these numbers (see Segments). The source must
     /// outlive the object.
     ParallelEncoder(const WavSource &source, const AacFormat &format,
         std::vector<std::int64_t> segmentStarts, int threads);
@@ -33,11 +33,6 @@ public:
     /// Gives all packets to sink, in order, on the calling thread. To be called once. Throws the
     /// first exception of an encoder or of sink.
     void encode(const AacEncoder::Sink &sink);
-
-    /// The starts of segments for so many packets: evenly long, of bounded length, at least one for
-    /// each thread where the sound is long enough for it.
-    static std::vector<std::int64_t> segmentStarts(
-        std::int64_t packets, const AacFormat &format, int threads);
 
 private:
     void work();
