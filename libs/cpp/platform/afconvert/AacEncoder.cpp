@@ -27,8 +27,8 @@ constexpr std::int64_t maxBitsPerChannelAndPacket = 6144;
 constexpr int runUpBlocks = 12;
 constexpr int runUpBlocksOfTheBeginning = 4;
 
-constexpr int noiseBlocks = 4;
-constexpr int noiseBlocksAtHighestRate = 3;
+constexpr int noiseBlocks = 3;
+constexpr int noiseBlocksAtHighestRate = 2;
 
 constexpr std::int64_t highestBitRate(const AacFormat &format)
 {

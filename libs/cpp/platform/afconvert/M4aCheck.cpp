@@ -1,6 +1,7 @@
 #include "M4aCheck.h"
 
 #include "ConvertError.h"
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <fstream>
@@ -33,15 +34,29 @@ public:
     {
         std::array<unsigned char, 8> raw {};
         m_file.seekg(static_cast<std::streamoff>(position));
-        m_file.read(reinterpret_cast<char *>(raw.data()), bytes);
-        if (!m_file) {
-            throw ConvertError("the written file can't be read again");
-        }
+        readInto(raw.data(), bytes);
         std::uint64_t value = 0;
         for (int i = 0; i < bytes; ++i) {
             value = value << 8 | raw[i];
         }
         return value;
+    }
+
+    /// Calls visit with each of so many numbers of 32 bits.
+    template <typename Visitor>
+    void table(std::uint64_t position, std::uint64_t count, Visitor visit)
+    {
+        m_file.seekg(static_cast<std::streamoff>(position));
+        std::array<unsigned char, 65536> raw {};
+        while (count > 0) {
+            const std::uint64_t part = std::min<std::uint64_t>(count, raw.size() / 4);
+            readInto(raw.data(), static_cast<std::streamsize>(part * 4));
+            for (const unsigned char *at = raw.data(); at != raw.data() + part * 4; at += 4) {
+                visit(std::uint32_t {at[0]} << 24 | std::uint32_t {at[1]} << 16
+                    | std::uint32_t {at[2]} << 8 | at[3]);
+            }
+            count -= part;
+        }
     }
 
     /// The boxes of a level by their types; they must fill the place to its last byte.
@@ -86,6 +101,14 @@ public:
     }
 
 private:
+    void readInto(unsigned char *bytes, std::streamsize count)
+    {
+        m_file.read(reinterpret_cast<char *>(bytes), count);
+        if (!m_file) {
+            throw ConvertError("the written file can't be read again");
+        }
+    }
+
     std::ifstream m_file;
     std::uint64_t m_size = 0;
 };
@@ -114,10 +137,9 @@ void M4aCheck::verify(const std::string &path, std::int64_t frames, std::int64_t
     require(count == static_cast<std::uint64_t>(packets) && sizes.size == 12 + 4 * count,
         "packets are missing");
     std::uint64_t bytes = 0;
-    for (std::uint64_t i = 0; i < count; ++i) {
-        const std::uint64_t size = walker.number(sizes.position + 12 + 4 * i, 4);
+    walker.table(sizes.position + 12, count, [&bytes](std::uint32_t size) {
         require(size > 0, "a packet is empty");
         bytes += size;
-    }
+    });
     require(bytes == media.size, "its packets don't fill its data");
 }

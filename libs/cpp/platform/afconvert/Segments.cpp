@@ -13,9 +13,11 @@ constexpr int longestSeconds = 120;
 // Bytes of packets that may wait for their turn.
 constexpr std::int64_t waitingBytes = std::int64_t {16} << 20;
 
-// How far a start is moved: to each side, and as a part of the segments' length.
-constexpr int farthestSeconds = 2;
-constexpr int farthestPart = 24;
+// How far a start is moved to each side: within a beat or two at least, and little against the
+// segments, whose lengths must stay alike for the cores to be done at the same time.
+constexpr double nearSeconds = 0.45;
+constexpr double farSeconds = 2;
+constexpr int farthestPart = 48;
 
 // Blocks before and behind a start that are looked at: the run-up, and what an encoder needs until
 // it no longer matters where it began.
@@ -24,9 +26,9 @@ constexpr int blocksBehind = 16;
 
 constexpr float silenceLevel = -100; // dB
 
-std::int64_t packetsIn(int seconds, const AacFormat &format)
+std::int64_t packetsIn(double seconds, const AacFormat &format)
 {
-    return static_cast<std::int64_t>(seconds) * format.sampleRate / packetFrames;
+    return static_cast<std::int64_t>(seconds * format.sampleRate) / packetFrames;
 }
 
 /// The level of each of so many blocks from the first one on, in dB, treble counting more, as it
@@ -120,8 +122,8 @@ std::vector<std::int64_t> Segments::steadyStarts(const WavSource &source, const 
 {
     const auto count = static_cast<std::int64_t>(starts.size());
     const std::int64_t shortest = packetsIn(shortestSeconds, format);
-    const std::int64_t farthest
-        = std::min(packetsIn(farthestSeconds, format), packets / count / farthestPart);
+    const std::int64_t farthest = std::clamp(packets / count / farthestPart,
+        packetsIn(nearSeconds, format), packetsIn(farSeconds, format));
     for (std::size_t i = 1; i < starts.size(); ++i) {
         const auto behind = count - static_cast<std::int64_t>(i);
         const std::int64_t first = std::max(starts[i - 1] + shortest, starts[i] - farthest);
