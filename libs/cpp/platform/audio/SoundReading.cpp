@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <sys/resource.h>
+#include <system_error>
 
 namespace {
 
@@ -177,7 +179,37 @@ void SoundReading::dropRead()
     m_changed.notify_all();
 }
 
+/// Decodes with what the encoders leave of the cores, until somebody waits for it.
 void SoundReading::runHint(const QUrl &url)
+{
+    std::unique_ptr<SoundDecoder> decoder;
+    Progress progress = Progress::Failed;
+    const auto decodeAhead = [this, &url, &decoder, &progress] {
+        constexpr int leastPriority = 19;
+        ::setpriority(PRIO_PROCESS, 0, leastPriority); // of this thread alone
+        decoder = openHint(url);
+        if (decoder != nullptr) {
+            progress = decode(*decoder, true);
+        }
+    };
+    try {
+        // A thread can't go back to its priority: this one takes over.
+        std::thread(decodeAhead).join();
+    } catch (const std::system_error &) {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_ended = true;
+    }
+    if (decoder == nullptr) {
+        return;
+    }
+    if (progress == Progress::Interrupted) {
+        progress = decode(*decoder, false);
+    }
+    finish(*decoder, progress);
+}
+
+/// Null if the file isn't to be decoded ahead, or not any more.
+std::unique_ptr<SoundDecoder> SoundReading::openHint(const QUrl &url)
 {
     OSStatus status = noErr;
     std::unique_ptr<SoundSource> source = SoundSource::open(url, &status);
@@ -186,12 +218,12 @@ void SoundReading::runHint(const QUrl &url)
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!wanted || m_cancelled) {
             m_ended = true;
-            return;
+            return nullptr;
         }
         m_key = source->file().key();
         m_hasKey = true;
     }
-    run(std::move(source));
+    return attach(std::move(source));
 }
 
 bool SoundReading::mayFit(const SoundSource &source) const
@@ -202,15 +234,25 @@ bool SoundReading::mayFit(const SoundSource &source) const
 
 void SoundReading::run(std::unique_ptr<SoundSource> source)
 {
-    SoundDecoder decoder(std::move(source), m_format);
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_decoder = &decoder;
-        if (m_cancelled) {
-            decoder.source().cancel();
-        }
+    const auto decoder = attach(std::move(source));
+    finish(*decoder, decode(*decoder, false));
+}
+
+/// Makes the decoder, so that it can be cancelled from now on.
+std::unique_ptr<SoundDecoder> SoundReading::attach(std::unique_ptr<SoundSource> source)
+{
+    auto decoder = std::make_unique<SoundDecoder>(std::move(source), m_format);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_decoder = decoder.get();
+    if (m_cancelled) {
+        decoder->source().cancel();
     }
-    const bool complete = decodeAll(decoder) && decoder.source().file().isUnchanged();
+    return decoder;
+}
+
+void SoundReading::finish(SoundDecoder &decoder, Progress progress)
+{
+    const bool complete = progress == Progress::Complete && decoder.source().file().isUnchanged();
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_decoder = nullptr;
     m_ended = true;
@@ -224,17 +266,24 @@ void SoundReading::run(std::unique_ptr<SoundSource> source)
     m_changed.notify_all();
 }
 
-bool SoundReading::decodeAll(SoundDecoder &decoder)
+/// Decodes on; until somebody reads, if asked so.
+SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, bool untilRead)
 {
     for (;;) {
+        if (untilRead) {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            if (m_hasReader) {
+                return Progress::Interrupted;
+            }
+        }
         Chunk chunk = takeEmptyChunk();
         chunk.size = decoder.read(chunk.data.get(), ChunkBytes);
         const bool last = chunk.size < ChunkBytes;
         if (chunk.size > 0 && !push(std::move(chunk))) {
-            return false;
+            return Progress::Failed;
         }
         if (last) {
-            return !decoder.source().file().isCancelled();
+            return decoder.source().file().isCancelled() ? Progress::Failed : Progress::Complete;
         }
     }
 }

@@ -73,10 +73,20 @@ private:
     explicit SoundReading(const ClientFormat &format);
     Q_DISABLE_COPY(SoundReading)
 
-    void runHint(const QUrl &url);
+    enum class Progress
+    {
+        Complete,
+        Interrupted, ///< by a reader
+        Failed ///< or cancelled, or there was no room
+    };
+
     void run(std::unique_ptr<SoundSource> source);
+    void runHint(const QUrl &url);
+    std::unique_ptr<SoundDecoder> openHint(const QUrl &url);
+    std::unique_ptr<SoundDecoder> attach(std::unique_ptr<SoundSource> source);
+    Progress decode(SoundDecoder &decoder, bool untilRead);
+    void finish(SoundDecoder &decoder, Progress progress);
     bool mayFit(const SoundSource &source) const;
-    bool decodeAll(SoundDecoder &decoder);
     bool push(Chunk chunk);
     bool makeRoom();
     Chunk takeEmptyChunk();
