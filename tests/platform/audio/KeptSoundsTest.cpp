@@ -2,8 +2,10 @@
 #include "SoundTestTools.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <thread>
 
 using namespace SoundTestTools;
 
@@ -141,6 +143,20 @@ TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
         ExtAudioFileDropHints();
     }
     EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() == 0; }));
+
+    // In the middle of a long file, so that another thread has to go on with it.
+    const QByteArray all = makeWave(u"long.wav"_qs, 6000000, 2);
+    settle(u"long.wav"_qs);
+    for (int i = 0; i < 5; ++i) {
+        ExtAudioFileHint(QUrl::fromLocalFile(file(u"long.wav"_qs)), format);
+        const QDeadlineTimer limit(20000);
+        while (SoundReading::keptBytes() == 0 && !limit.hasExpired()) {
+            std::this_thread::yield();
+        }
+        EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
+        EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
+    }
+    EXPECT_EQ(SoundReading::keptBytes(), 0);
     ExtAudioFileHint(QUrl::fromLocalFile(file(u"missing"_qs)), format);
     ExtAudioFileHint(QUrl::fromLocalFile(u"/dev/zero"_qs), format);
     ExtAudioFileDropHints();
