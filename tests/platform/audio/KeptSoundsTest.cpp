@@ -23,7 +23,7 @@ protected:
     /// A WAV of 16 bits with noise.
     QByteArray makeWave(const QString &name, int frames, quint32 seed) const
     {
-        const QByteArray raw = noise(frames * 4, seed);
+        QByteArray raw = noise(frames * 4, seed);
         EXPECT_TRUE(MediaMaker::writeFile(file(u"raw"_qs), raw));
         EXPECT_TRUE(MediaMaker::ffmpeg({u"-f"_qs, u"s16le"_qs, u"-ar"_qs, u"44100"_qs, u"-ac"_qs,
             u"2"_qs, u"-i"_qs, file(u"raw"_qs), file(name)}));

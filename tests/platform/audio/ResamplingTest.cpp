@@ -94,9 +94,9 @@ template <typename Phase> Levels measureSweep(const double *samples, std::size_t
 
 std::vector<double> tone(int rate, int frames, double frequency, double level)
 {
-    std::vector<double> samples;
+    std::vector<double> samples(static_cast<std::size_t>(frames));
     for (int i = 0; i < frames; ++i) {
-        samples.push_back(level * std::sin(2 * M_PI * frequency * i / rate));
+        samples[i] = level * std::sin(2 * M_PI * frequency * i / rate);
     }
     return samples;
 }
@@ -113,9 +113,9 @@ TEST(ResamplingTest, IsFlatToTwentyKilohertzAndCleanBeyond)
         // From 0 Hz to half the rate, linearly.
         const double slope = rate / 2.0 / seconds;
         const auto phase = [slope](double t) { return M_PI * slope * t * t; };
-        std::vector<double> sweep;
-        for (int i = 0; i < rate * seconds; ++i) {
-            sweep.push_back(level * std::sin(phase(double(i) / rate)));
+        std::vector<double> sweep(static_cast<std::size_t>(rate * seconds));
+        for (std::size_t i = 0; i < sweep.size(); ++i) {
+            sweep[i] = level * std::sin(phase(double(i) / rate));
         }
         ASSERT_TRUE(writeWave(path, rate, 1, sweep));
         const Read read = readAll(path, 44100, 24);
