@@ -136,6 +136,16 @@ class Desktop:
             message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         display.close()
 
+    def close_until(self, window, condition, what):
+        """Closes again where the first attempt came too early, as a user does."""
+        for _ in range(10):
+            self.close_window(window)
+            try:
+                return wait_for(condition, 4, what)
+            except TimeoutError:
+                pass
+        raise TimeoutError(f"closed the window in vain for {what}")
+
     def key(self, *keys):
         self.run("xdotool", "key", *keys)
 
