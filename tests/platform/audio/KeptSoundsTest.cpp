@@ -2,10 +2,8 @@
 #include "SoundTestTools.h"
 
 #include <QDateTime>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <thread>
 
 using namespace SoundTestTools;
 
@@ -149,10 +147,7 @@ TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
     settle(u"long.wav"_qs);
     for (int i = 0; i < 5; ++i) {
         ExtAudioFileHint(QUrl::fromLocalFile(file(u"long.wav"_qs)), format);
-        const QDeadlineTimer limit(20000);
-        while (SoundReading::keptBytes() == 0 && !limit.hasExpired()) {
-            std::this_thread::yield();
-        }
+        EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() > 0; }));
         EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
         EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
     }
