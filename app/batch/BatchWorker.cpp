@@ -285,6 +285,7 @@ bool BatchWorker::waitForFreeSpace(const QString &output)
 
 void BatchWorker::convertDecoded(const QString &input, const QString &output)
 {
+    hintNextFile();
     GeneralOutput generalOutput(output, m_settings);
     generalOutput.setMetaInfoFile(input);
     connect(&generalOutput, &GeneralOutput::errorsLog, this, &BatchWorker::slotAppendError);
@@ -309,7 +310,6 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
     openDecoder(input);
     ChunkEffects effects(plan);
     const qint64 delivered = runSampleLoop(generalOutput, effects);
-    hintNextFile();
     if (delivered == 0) {
         generalOutput.setMetaInfoFile(QString());
     }

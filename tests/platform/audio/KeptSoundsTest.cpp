@@ -1,4 +1,4 @@
-#include "SoundReading.h"
+#include "KeptRoom.h"
 #include "SoundTestTools.h"
 
 #include <QDateTime>
@@ -37,7 +37,7 @@ protected:
         }));
     }
 
-    static bool keeps(qint64 bytes) { return SoundReading::keptBytes() >= bytes; }
+    static bool keeps(qint64 bytes) { return KeptRoom::instance().bytes() >= bytes; }
 
     QTemporaryDir m_folder;
 };
@@ -54,11 +54,11 @@ TEST_F(KeptSoundsTest, KeepsOneReadingForASecondPassOnly)
         EXPECT_EQ(readAll(file(u"a.wav"_qs), 44100, 24).frames, 200000);
         EXPECT_EQ(readAll(file(u"a.wav"_qs), 44100, 24).frames, 200000);
         EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
-        EXPECT_EQ(SoundReading::keptBytes(), 0);
+        EXPECT_EQ(KeptRoom::instance().bytes(), 0);
     }
     readAll(file(u"a.wav"_qs), 44100, 16);
     ExtAudioFileForgetKept();
-    EXPECT_EQ(SoundReading::keptBytes(), 0);
+    EXPECT_EQ(KeptRoom::instance().bytes(), 0);
 }
 
 TEST_F(KeptSoundsTest, NeverGivesWhatIsNoLongerInTheFile)
@@ -109,14 +109,45 @@ TEST_F(KeptSoundsTest, StaysBelowTheLimitAndReadsOnBeyondIt)
             frames = 100000;
             ASSERT_EQ(ExtAudioFileRead(opened, &frames, &list), noErr);
             total += frames;
-            highest = std::max(highest, SoundReading::keptBytes());
+            highest = std::max(highest, KeptRoom::instance().bytes());
         }
         ExtAudioFileDispose(opened);
         EXPECT_GT(total, 959 * 44100) << name;
-        EXPECT_LE(highest, SoundReading::KeptLimit);
+        EXPECT_LE(highest, KeptRoom::Limit);
         ExtAudioFileForgetKept();
-        EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() == 0; })) << name;
+        EXPECT_TRUE(MediaMaker::waitFor([] { return KeptRoom::instance().bytes() == 0; })) << name;
     }
+}
+
+TEST_F(KeptSoundsTest, WaitsAheadForTheRoomOfTheSoundBefore)
+{
+    constexpr int frames = 18'000'000; // 72 MB: two of them are too much
+    const QByteArray first = makeWave(u"a.wav"_qs, frames, 1);
+    const QByteArray second = makeWave(u"b.wav"_qs, frames, 2);
+    const AudioStreamBasicDescription format = clientFormat(44100, 16);
+    const auto hintWhileKept = [&] {
+        EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == first);
+        ExtAudioFileHint(QUrl::fromLocalFile(file(u"b.wav"_qs)), format);
+        EXPECT_TRUE(
+            MediaMaker::waitFor([] { return keeps(KeptRoom::Limit - KeptRoom::BlockBytes); }));
+    };
+    hintWhileKept();
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == first);
+    EXPECT_TRUE(MediaMaker::waitFor([&] { return keeps(second.size()); }));
+    EXPECT_TRUE(readAll(file(u"b.wav"_qs), 44100, 16).bytes == second);
+    EXPECT_TRUE(keeps(second.size()));
+    EXPECT_TRUE(readAll(file(u"b.wav"_qs), 44100, 16).bytes == second);
+    EXPECT_EQ(KeptRoom::instance().bytes(), 0);
+
+    // Dropped while it waits, and read while it waits: then it isn't kept.
+    hintWhileKept();
+    ExtAudioFileDropHints();
+    EXPECT_TRUE(
+        MediaMaker::waitFor([&] { return !keeps(first.size() + 2 * KeptRoom::BlockBytes); }));
+    ExtAudioFileForgetKept();
+    hintWhileKept();
+    EXPECT_TRUE(readAll(file(u"b.wav"_qs), 44100, 16).bytes == second);
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == first);
 }
 
 TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
@@ -130,7 +161,7 @@ TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
     EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
     EXPECT_TRUE(keeps(raw.size())); // for the second pass
     EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
-    EXPECT_EQ(SoundReading::keptBytes(), 0);
+    EXPECT_EQ(KeptRoom::instance().bytes(), 0);
 
     // Reading begins while the hint is still at work, in all kinds of moments.
     for (int i = 0; i < 20; ++i) {
@@ -140,18 +171,18 @@ TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
         ExtAudioFileHint(url, format);
         ExtAudioFileDropHints();
     }
-    EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() == 0; }));
+    EXPECT_TRUE(MediaMaker::waitFor([] { return KeptRoom::instance().bytes() == 0; }));
 
     // In the middle of a long file, so that another thread has to go on with it.
     const QByteArray all = makeWave(u"long.wav"_qs, 6000000, 2);
     settle(u"long.wav"_qs);
     for (int i = 0; i < 5; ++i) {
         ExtAudioFileHint(QUrl::fromLocalFile(file(u"long.wav"_qs)), format);
-        EXPECT_TRUE(MediaMaker::waitFor([] { return SoundReading::keptBytes() > 0; }));
+        EXPECT_TRUE(MediaMaker::waitFor([] { return KeptRoom::instance().bytes() > 0; }));
         EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
         EXPECT_TRUE(readAll(file(u"long.wav"_qs), 44100, 16).bytes == all);
     }
-    EXPECT_EQ(SoundReading::keptBytes(), 0);
+    EXPECT_EQ(KeptRoom::instance().bytes(), 0);
     ExtAudioFileHint(QUrl::fromLocalFile(file(u"missing"_qs)), format);
     ExtAudioFileHint(QUrl::fromLocalFile(u"/dev/zero"_qs), format);
     ExtAudioFileDropHints();

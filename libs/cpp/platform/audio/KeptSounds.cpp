@@ -92,6 +92,7 @@ template <typename Condition> void KeptSounds::removeHints(Condition condition)
 void KeptSounds::forgetAll()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
+    KeptRoom::instance().freeSpare();
     for (auto entry = m_entries.begin(); entry != m_entries.end();) {
         if (entry->inUse) {
             entry->passesLeft = 0;

@@ -13,18 +13,27 @@ SoundDecoder::SoundDecoder(std::unique_ptr<SoundSource> source, const ClientForm
 
 int SoundDecoder::read(char *out, int bytes)
 {
-    int filled = 0;
-    while (filled < bytes) {
-        if (m_taken == m_pending.size() && !decodeMore()) {
-            break;
-        }
-        const std::size_t count
-            = std::min(m_pending.size() - m_taken, static_cast<std::size_t>(bytes - filled));
-        std::memcpy(out + filled, m_pending.data() + m_taken, count);
-        filled += static_cast<int>(count);
-        m_taken += count;
-    }
-    return filled;
+    m_out = out;
+    m_room = bytes;
+    do {
+        takePending();
+    } while (m_room > 0 && decodeMore());
+    return bytes - m_room;
+}
+
+void SoundDecoder::takePending()
+{
+    const std::size_t count
+        = std::min(m_pending.size() - m_taken, static_cast<std::size_t>(m_room));
+    std::memcpy(m_out, m_pending.data() + m_taken, count);
+    m_taken += count;
+    advance(static_cast<int>(count));
+}
+
+void SoundDecoder::advance(int bytes)
+{
+    m_out += bytes;
+    m_room -= bytes;
 }
 
 bool SoundDecoder::seek(double seconds)
@@ -39,12 +48,14 @@ bool SoundDecoder::seek(double seconds)
     return true;
 }
 
+/// Decodes until there is something; false at the end.
 bool SoundDecoder::decodeMore()
 {
     m_pending.clear();
     m_taken = 0;
+    const int room = m_room;
     const auto sink = [this](const SoundBlock &block) { append(block); };
-    while (m_pending.empty() && !m_atEnd) {
+    while (m_pending.empty() && m_room == room && !m_atEnd) {
         const SoundPiece piece = m_source->next();
         if (piece.frame != nullptr) {
             m_shaper.process(piece, sink);
@@ -53,14 +64,19 @@ bool SoundDecoder::decodeMore()
             m_atEnd = true;
         }
     }
-    return !m_pending.empty();
+    return !m_pending.empty() || m_room < room;
 }
 
+/// Packs a block straight into the reader's memory if all of it has room there.
 void SoundDecoder::append(const SoundBlock &block)
 {
+    const int bytes = block.frames * bytesPerFrame(m_format.sample);
+    if (m_pending.empty() && bytes <= m_room) {
+        packBlock(block, m_format.sample, m_out);
+        advance(bytes);
+        return;
+    }
     const std::size_t offset = m_pending.size();
-    m_pending.resize(offset
-        + static_cast<std::size_t>(block.frames)
-            * static_cast<std::size_t>(bytesPerFrame(m_format.sample)));
+    m_pending.resize(offset + static_cast<std::size_t>(bytes));
     packBlock(block, m_format.sample, m_pending.data() + offset);
 }

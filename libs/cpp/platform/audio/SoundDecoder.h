@@ -34,13 +34,17 @@ public:
     bool seek(double seconds);
 
 private:
+    void takePending();
+    void advance(int bytes);
     bool decodeMore();
     void append(const SoundBlock &block);
 
     std::unique_ptr<SoundSource> m_source;
     ClientFormat m_format;
     SoundShaper m_shaper;
-    std::vector<char> m_pending;
+    char *m_out = nullptr; ///< where read() goes on
+    int m_room = 0; ///< bytes that it still wants
+    std::vector<char> m_pending; ///< what it had no room for
     std::size_t m_taken = 0;
     bool m_atEnd = false;
 };

@@ -1,35 +1,16 @@
 #include "SoundReading.h"
 
+#include "KeptRoom.h"
 #include "KeptSounds.h"
 #include <algorithm>
-#include <atomic>
 #include <cstring>
 #include <sys/resource.h>
 #include <system_error>
 
 namespace {
 
-/// A multiple of every frame's size.
-constexpr int ChunkBytes = 24 * 5461;
 /// How many chunks a reading that isn't kept is ahead.
 constexpr std::size_t QueueChunks = 8;
-
-std::atomic<qint64> &allKeptBytes()
-{
-    static std::atomic<qint64> bytes {0};
-    return bytes;
-}
-
-bool reserve(qint64 bytes)
-{
-    qint64 used = allKeptBytes().load();
-    while (used + bytes <= SoundReading::KeptLimit) {
-        if (allKeptBytes().compare_exchange_weak(used, used + bytes)) {
-            return true;
-        }
-    }
-    return false;
-}
 
 }
 
@@ -40,7 +21,7 @@ SoundReading::SoundReading(const ClientFormat &format)
 
 SoundReading::~SoundReading()
 {
-    allKeptBytes() -= m_reserved;
+    KeptRoom::instance().release(m_reserved);
 }
 
 std::shared_ptr<SoundReading> SoundReading::start(
@@ -62,11 +43,6 @@ std::shared_ptr<SoundReading> SoundReading::startHint(const QUrl &url, const Cli
     reading->m_isHint = true;
     std::thread([reading, url] { reading->runHint(url); }).detach();
     return reading;
-}
-
-qint64 SoundReading::keptBytes()
-{
-    return allKeptBytes().load();
 }
 
 bool SoundReading::matches(const FileKey &key, const ClientFormat &format) const
@@ -103,6 +79,7 @@ bool SoundReading::beginPass(bool last)
     m_readOffset = 0;
     m_hasReader = true;
     m_dropsRead = last;
+    KeptRoom::instance().wake();
     return true;
 }
 
@@ -122,6 +99,7 @@ void SoundReading::cancel()
         m_decoder->source().cancel();
     }
     m_changed.notify_all();
+    KeptRoom::instance().wake();
 }
 
 void SoundReading::join()
@@ -167,11 +145,11 @@ void SoundReading::dropRead()
     }
     while (m_readChunk > 0) {
         if (m_reserved > 0) {
-            m_reserved -= ChunkBytes;
-            allKeptBytes() -= ChunkBytes;
+            --m_reserved;
+            KeptRoom::instance().release();
         }
-        if (m_empty.size() < 2 && !m_ended) {
-            m_empty.push_back(std::move(m_chunks.front()));
+        if (m_keeps || !m_ended) {
+            KeptRoom::instance().putBy(std::move(m_chunks.front().data));
         }
         m_chunks.pop_front();
         --m_readChunk;
@@ -229,7 +207,7 @@ std::unique_ptr<SoundDecoder> SoundReading::openHint(const QUrl &url)
 bool SoundReading::mayFit(const SoundSource &source) const
 {
     const double bytes = source.duration() * m_format.rate * bytesPerFrame(m_format.sample);
-    return bytes + ChunkBytes <= static_cast<double>(KeptLimit);
+    return bytes + KeptRoom::BlockBytes <= static_cast<double>(KeptRoom::Limit);
 }
 
 void SoundReading::run(std::unique_ptr<SoundSource> source)
@@ -253,17 +231,23 @@ std::unique_ptr<SoundDecoder> SoundReading::attach(std::unique_ptr<SoundSource> 
 void SoundReading::finish(SoundDecoder &decoder, Progress progress)
 {
     const bool complete = progress == Progress::Complete && decoder.source().file().isUnchanged();
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_decoder = nullptr;
-    m_ended = true;
-    m_whole = complete && m_keeps && !m_cancelled;
-    m_empty.clear();
-    if (m_cancelled && !m_hasReader) {
-        m_chunks.clear();
-        allKeptBytes() -= m_reserved;
-        m_reserved = 0;
+    bool isLast = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_decoder = nullptr;
+        m_ended = true;
+        m_whole = complete && m_keeps && !m_cancelled;
+        if (m_cancelled && !m_hasReader) {
+            m_chunks.clear();
+            KeptRoom::instance().release(m_reserved);
+            m_reserved = 0;
+        }
+        isLast = m_isHint || !m_keeps;
+        m_changed.notify_all();
     }
-    m_changed.notify_all();
+    if (isLast) {
+        KeptRoom::instance().freeSpare(); // nothing else is going to be read soon
+    }
 }
 
 /// Decodes on; until somebody reads, if asked so.
@@ -276,9 +260,9 @@ SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, bool untilRea
                 return Progress::Interrupted;
             }
         }
-        Chunk chunk = takeEmptyChunk();
-        chunk.size = decoder.read(chunk.data.get(), ChunkBytes);
-        const bool last = chunk.size < ChunkBytes;
+        Chunk chunk {KeptRoom::instance().take(), 0};
+        chunk.size = decoder.read(chunk.data.get(), KeptRoom::BlockBytes);
+        const bool last = chunk.size < KeptRoom::BlockBytes;
         if (chunk.size > 0 && !push(std::move(chunk))) {
             return Progress::Failed;
         }
@@ -288,24 +272,13 @@ SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, bool untilRea
     }
 }
 
-SoundReading::Chunk SoundReading::takeEmptyChunk()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_empty.empty()) {
-        return {std::unique_ptr<char[]>(new char[ChunkBytes]), 0};
-    }
-    Chunk chunk = std::move(m_empty.back());
-    m_empty.pop_back();
-    return chunk;
-}
-
 /// Appends a chunk; false if the reading is to end.
 bool SoundReading::push(Chunk chunk)
 {
     const bool reserved = makeRoom();
     std::unique_lock<std::mutex> lock(m_mutex);
     if (reserved) {
-        m_reserved += ChunkBytes;
+        ++m_reserved;
     } else {
         if (!m_hasReader) {
             m_cancelled = true; // before anybody can begin to read what will never be whole
@@ -323,19 +296,29 @@ bool SoundReading::push(Chunk chunk)
     return true;
 }
 
-/// Reserves the room of a chunk that is to be kept; false if it isn't.
+/// Reserves the room of a chunk that is to be kept; false if it isn't. Ahead of any reader it waits
+/// for the room that others still need.
 bool SoundReading::makeRoom()
 {
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        if (!m_keeps || m_cancelled) {
+    KeptRoom &room = KeptRoom::instance();
+    for (;;) {
+        const std::uint64_t seen = room.changes();
+        bool waits = false;
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            if (!m_keeps || m_cancelled) {
+                return false;
+            }
+            waits = m_isHint && !m_hasReader
+                && (m_reserved + 1) * KeptRoom::BlockBytes <= KeptRoom::Limit;
+        }
+        if (room.reserve()) {
+            return true;
+        }
+        if (waits) {
+            room.waitForChange(seen);
+        } else if (m_isHint || !KeptSounds::instance().forgetOldest()) {
             return false;
         }
     }
-    while (!reserve(ChunkBytes)) {
-        if (m_isHint || !KeptSounds::instance().forgetOldest()) {
-            return false;
-        }
-    }
-    return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KeptRoom.h"
 #include "SoundDecoder.h"
 #include <condition_variable>
 #include <deque>
@@ -7,7 +8,6 @@
 #include <mutex>
 #include <QUrl>
 #include <thread>
-#include <vector>
 
 /// One decoding of a file on a thread of its own, ahead of the one who reads it.
 ///
@@ -16,9 +16,6 @@
 class SoundReading : public std::enable_shared_from_this<SoundReading>
 {
 public:
-    /// All that is kept at one time, in bytes.
-    static constexpr qint64 KeptLimit = qint64(128) * 1024 * 1024;
-
     /// Starts decoding a file that is open. The thread belongs to the reading: end it with cancel()
     /// and join().
     static std::shared_ptr<SoundReading> start(
@@ -60,13 +57,10 @@ public:
     /// Waits for the end of a thread that belongs to the reading.
     void join();
 
-    /// Bytes that all readings keep together.
-    static qint64 keptBytes();
-
 private:
     struct Chunk
     {
-        std::unique_ptr<char[]> data;
+        KeptRoom::Block data;
         int size = 0;
     };
 
@@ -89,7 +83,6 @@ private:
     bool mayFit(const SoundSource &source) const;
     bool push(Chunk chunk);
     bool makeRoom();
-    Chunk takeEmptyChunk();
     void dropRead();
     bool isUselessNow() const { return m_cancelled || (m_ended && !m_whole); }
 
@@ -101,10 +94,9 @@ private:
     bool m_isHint = false;
     SoundDecoder *m_decoder = nullptr; ///< while the thread decodes
     std::deque<Chunk> m_chunks;
-    std::vector<Chunk> m_empty;
     std::size_t m_readChunk = 0; ///< index of the chunk that is read now
     int m_readOffset = 0;
-    qint64 m_reserved = 0; ///< this reading's part of keptBytes()
+    qint64 m_reserved = 0; ///< chunks that are counted as kept
     bool m_keeps = true;
     bool m_hasReader = false;
     bool m_dropsRead = false;
