@@ -215,7 +215,7 @@ void AacEncoder::encode(
         }
         block = -1;
     }
-    for (; block <= endPacket; ++block) {
+    for (; block <= endPacket && !m_stopped; ++block) {
         const std::int64_t packet = block - 1;
         m_context->bit_rate = std::llround(m_format.bitRate * loan.factor(packet - firstPacket));
         if (pushBlock(block) && packet >= firstPacket) {

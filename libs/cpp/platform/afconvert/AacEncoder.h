@@ -57,6 +57,9 @@ public:
     void encode(const WavSource &source, std::int64_t firstPacket, std::int64_t endPacket,
         const Sink &sink);
 
+    /// For a sink that has enough packets: encode() ends after the one at hand.
+    void stop() { m_stopped = true; }
+
 private:
     struct Deleter
     {
@@ -74,4 +77,5 @@ private:
     std::unique_ptr<AVFrame, Deleter> m_frame;
     std::unique_ptr<AVPacket, Deleter> m_packet;
     std::int64_t m_position = 0;
+    bool m_stopped = false;
 };

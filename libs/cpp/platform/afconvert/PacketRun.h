@@ -20,6 +20,13 @@ public:
     {
     }
 
+    /// Takes the memory for so many packets and bytes beforehand.
+    void reserve(std::size_t packets, std::size_t bytes)
+    {
+        m_bytes.reserve(bytes);
+        m_ends.reserve(packets);
+    }
+
     void add(const std::uint8_t *bytes, std::size_t count)
     {
         m_bytes.insert(m_bytes.end(), bytes, bytes + count);

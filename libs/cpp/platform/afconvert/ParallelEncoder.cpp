@@ -7,6 +7,19 @@
 #include <system_error>
 #include <utility>
 
+namespace {
+
+/// A little more than the packets need on average.
+std::size_t expectedPacketBytes(const AacFormat &format)
+{
+    constexpr int margin = 16;
+    return static_cast<std::size_t>(format.bitRate) * packetFrames
+        / static_cast<std::size_t>(format.sampleRate) / 8
+        + margin;
+}
+
+}
+
 ParallelEncoder::ParallelEncoder(const WavSource &source, const AacFormat &format,
     std::vector<std::int64_t> segmentStarts, int threads)
     : m_source(source)
@@ -66,6 +79,7 @@ PacketRun ParallelEncoder::collect(std::size_t segment)
         std::rethrow_exception(m_failure);
     }
     PacketRun run = std::move(m_finished.extract(segment).mapped());
+    m_heads.erase(segment);
     ++m_collected;
     m_changed.notify_all();
     return run;
@@ -105,15 +119,36 @@ void ParallelEncoder::encodeSegment(std::size_t segment)
     const std::int64_t end = segment + 1 == m_starts.size()
         ? m_packets
         : std::min(m_starts[segment + 1] + Seam::overlapPackets, m_packets);
+    const auto packets = static_cast<std::size_t>(end - first);
     PacketRun run(first);
+    run.reserve(packets, packets * expectedPacketBytes(m_format));
     AacEncoder encoder(m_format);
-    encoder.encode(
-        m_source, first, end, [this, &run](const std::uint8_t *bytes, std::size_t count) {
-            if (m_stop) {
-                throw ConvertError("the conversion was given up");
-            }
-            run.add(bytes, count);
-        });
+    const auto add = [&](const std::uint8_t *bytes, std::size_t count) {
+        if (m_stop) {
+            throw ConvertError("the conversion was given up");
+        }
+        run.add(bytes, count);
+        if (run.end() == first + Seam::overlapPackets) {
+            const std::lock_guard lock(m_mutex);
+            m_heads.emplace(segment, run);
+        }
+        if (fitsNext(segment, run)) {
+            encoder.stop();
+        }
+    };
+    encoder.encode(m_source, first, end, add);
     const std::lock_guard lock(m_mutex);
     m_finished.emplace(segment, std::move(run));
+}
+
+/// Whether a run is far enough into the next segment for a joint at the best place. The next
+/// segment was mostly begun long before; if not, the run takes all the packets of the overlap.
+bool ParallelEncoder::fitsNext(std::size_t segment, const PacketRun &run)
+{
+    if (segment + 1 == m_starts.size() || run.end() <= m_starts[segment + 1] + 1) {
+        return false;
+    }
+    const std::lock_guard lock(m_mutex);
+    const auto head = m_heads.find(segment + 1);
+    return head != m_heads.end() && Seam::plainCut(run, head->second).has_value();
 }

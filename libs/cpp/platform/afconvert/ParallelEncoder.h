@@ -38,6 +38,7 @@ private:
     void work();
     void encodeSegment(std::size_t segment);
     PacketRun collect(std::size_t segment);
+    bool fitsNext(std::size_t segment, const PacketRun &run);
 
     const WavSource &m_source;
     AacFormat m_format;
@@ -50,6 +51,7 @@ private:
     std::size_t m_next = 0; ///< segment that the next free thread takes
     std::size_t m_collected = 0; ///< segments that have left m_finished
     std::map<std::size_t, PacketRun> m_finished;
+    std::map<std::size_t, PacketRun> m_heads; ///< first packets of segments, for those before them
     std::exception_ptr m_failure;
     std::atomic<bool> m_stop {false};
     std::vector<std::thread> m_threads;

@@ -30,9 +30,27 @@ private:
     std::size_t m_position = 0;
 };
 
-bool isPlain(const Seam::Window &window)
+bool isPlainSeries(const Seam::Window &before, const Seam::Window &after)
 {
-    return window.known && window.sequence == Seam::Window::Sequence::OnlyLong;
+    constexpr auto plain = Seam::Window::Sequence::OnlyLong;
+    return before.sequence == plain && after.sequence == plain && before.shape == after.shape;
+}
+
+/// The first place at which both runs have the same known windows before and behind it, and these
+/// are a series that fits.
+template <typename Fits>
+std::optional<std::int64_t> firstCut(const PacketRun &left, const PacketRun &right, Fits fits)
+{
+    const std::int64_t end = std::min(left.end(), right.end());
+    for (std::int64_t cut = right.first() + 1; cut < end; ++cut) {
+        const Seam::Window before = Seam::readWindow(left.at(cut - 1));
+        const Seam::Window after = Seam::readWindow(left.at(cut));
+        if (before.known && after.known && before == Seam::readWindow(right.at(cut - 1))
+            && after == Seam::readWindow(right.at(cut)) && fits(before, after)) {
+            return cut;
+        }
+    }
+    return std::nullopt;
 }
 
 }
@@ -57,24 +75,17 @@ Seam::Window Seam::readWindow(const PacketRun::Packet &packet)
     return window;
 }
 
+std::optional<std::int64_t> Seam::plainCut(const PacketRun &left, const PacketRun &right)
+{
+    return firstCut(left, right, isPlainSeries);
+}
+
 std::int64_t Seam::chooseCut(const PacketRun &left, const PacketRun &right)
 {
-    const std::int64_t first = right.first() + 1;
-    const std::int64_t end = std::min(left.end(), right.end());
-    std::int64_t agreed = end;
-    for (std::int64_t cut = first; cut < end; ++cut) {
-        const Window leftBefore = readWindow(left.at(cut - 1));
-        const Window leftAfter = readWindow(left.at(cut));
-        const bool agree = leftBefore.known && leftAfter.known
-            && leftBefore == readWindow(right.at(cut - 1))
-            && leftAfter == readWindow(right.at(cut));
-        if (agree && isPlain(leftBefore) && isPlain(leftAfter)
-            && leftBefore.shape == leftAfter.shape) {
-            return cut;
-        }
-        if (agree && agreed == end) {
-            agreed = cut;
-        }
+    if (const auto cut = plainCut(left, right)) {
+        return *cut;
     }
-    return agreed < end ? agreed : (right.first() + end) / 2;
+    const auto anySeries = [](const Seam::Window &, const Seam::Window &) { return true; };
+    const std::int64_t end = std::min(left.end(), right.end());
+    return firstCut(left, right, anySeries).value_or((right.first() + end) / 2);
 }

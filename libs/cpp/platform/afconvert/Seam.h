@@ -1,6 +1,8 @@
 #pragma once
 
 #include "PacketRun.h"
+#include <cstdint>
+#include <optional>
 
 /// Where the packets of two encoders can follow each other.
 namespace Seam {
@@ -30,6 +32,9 @@ struct Window
 };
 
 Window readWindow(const PacketRun::Packet &packet);
+
+/// The first place where both runs have plain long blocks; none if there isn't one so far.
+std::optional<std::int64_t> plainCut(const PacketRun &left, const PacketRun &right);
 
 /// The number of the first packet that is taken from the right run, the packets before it coming
 /// from the left one.
