@@ -13,7 +13,11 @@
 class KeptRoom
 {
 public:
-    using Block = std::unique_ptr<char[]>;
+    struct Unmap
+    {
+        void operator()(char *bytes) const;
+    };
+    using Block = std::unique_ptr<char[], Unmap>;
 
     /// All that is kept at one time, in bytes.
     static constexpr qint64 Limit = qint64(128) * 1024 * 1024;
@@ -29,7 +33,7 @@ public:
     /// Bytes that are kept.
     qint64 bytes() const;
 
-    /// A block with any content.
+    /// A block with any content. Throws std::bad_alloc.
     Block take();
     /// Puts a block by for the next take(), as far as there is room.
     void putBy(Block block);
