@@ -56,8 +56,8 @@ KeptRoom::Block KeptRoom::take()
             return block;
         }
     }
-    void *bytes = ::mmap(
-        nullptr, BlockBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void *bytes
+        = ::mmap(nullptr, BlockBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (bytes == MAP_FAILED) {
         throw std::bad_alloc();
     }
