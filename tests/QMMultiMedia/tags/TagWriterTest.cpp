@@ -6,11 +6,14 @@
 #include "NativeMetaTags.h"
 #include "PendingExports.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <QBuffer>
+#include <QColor>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 namespace {
@@ -175,6 +178,51 @@ TEST_F(TagWriter, WritesNothingWithoutTags)
     EXPECT_FALSE(tags.copyAVAssets(m_dir.filePath(u"missing.mp3"_qs), m_file));
     EXPECT_EQ(PendingExports::count(), 0);
     EXPECT_EQ(MediaMaker::bytesOf(m_file), before);
+}
+
+TEST_F(TagWriter, GivesEachFileItsOwnPicture)
+{
+    // What is remembered of the last picture is another one's, the same one's, and too large.
+    struct Cover
+    {
+        const char *colour;
+        int side;
+    };
+    for (const Cover &cover :
+        {Cover {"#ff0000", 300}, Cover {"#0000ff", 300}, Cover {"#0000ff", 300},
+            Cover {"#00ff00", 3600}, Cover {"#ff0000", 300}, Cover {"", 0}}) {
+        const QString source = m_dir.filePath(u"cover.mp3"_qs);
+        const QString file = m_dir.filePath(u"covered.m4a"_qs);
+        ASSERT_TRUE(QFile::copy(m_file, file));
+        if (cover.side == 0) {
+            ASSERT_TRUE(QFile::copy(m_source, source));
+        } else {
+            const QString picture = m_dir.filePath(u"cover.png"_qs);
+            QImage image(cover.side, cover.side, QImage::Format_RGB32);
+            image.fill(QColor(QLatin1String(cover.colour)));
+            ASSERT_TRUE(image.save(picture));
+            ASSERT_TRUE(MediaMaker::ffmpeg(
+                {u"-i"_qs, m_source, u"-i"_qs, picture, u"-map"_qs, u"0"_qs, u"-map"_qs, u"1"_qs,
+                    u"-c:v"_qs, u"copy"_qs, u"-disposition:v"_qs, u"attached_pic"_qs, source}));
+        }
+        NativeMetaTags tags;
+        ASSERT_TRUE(tags.copyAVAssets(source, file));
+        PendingExports::waitForOutput(m_dir.filePath(u"covered_temp.m4a"_qs));
+        const QByteArray bytes
+            = MediaMaker::runTool(u"exiftool"_qs, {u"-b"_qs, u"-CoverArt"_qs, file}).standardOutput;
+        const QImage picture = QImage::fromData(bytes);
+        EXPECT_EQ(picture.width(), cover.side) << cover.colour;
+        if (cover.side > 0) {
+            const QColor wanted {QLatin1String(cover.colour)};
+            const QColor got = picture.pixelColor(9, 9);
+            EXPECT_LT(std::abs(wanted.red() - got.red()) + std::abs(wanted.green() - got.green())
+                    + std::abs(wanted.blue() - got.blue()),
+                20)
+                << cover.colour;
+        }
+        QFile::remove(source);
+        QFile::remove(file);
+    }
 }
 
 long residentKb()

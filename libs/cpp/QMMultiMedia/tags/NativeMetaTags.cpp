@@ -25,6 +25,16 @@ bool holdsAny(const QStringList &keys, std::initializer_list<QLatin1String> iden
     return false;
 }
 
+/// The picture that was decoded last: the files of an album mostly have one and the same.
+struct DecodedPicture
+{
+    QByteArray bytes;
+    bool isUnsynchronised = false;
+    QImage image;
+};
+thread_local DecodedPicture lastPicture;
+constexpr qsizetype largestRemembered = 40'000'000; // 3,000 times 3,000 pixels
+
 }
 
 NativeMetaTags::NativeMetaTags(QObject *parent)
@@ -96,8 +106,15 @@ void NativeMetaTags::takeItem(const AVMetadataItem &item)
 void NativeMetaTags::takePicture(const AVMetadataItem &item)
 {
     const QByteArray bytes = item.dataValue();
+    const bool isUnsynchronised = item.keySpace().endsWith(u"id3"_qs);
     m_strPicType = item.dataType().endsWith(u"PNG"_qs) ? u"PNG"_qs : u"JPEG"_qs;
-    m_imgAlbumArtwork = byteArrayToImage(bytes, item.keySpace().endsWith(u"id3"_qs));
+    if (lastPicture.isUnsynchronised != isUnsynchronised || lastPicture.bytes != bytes) {
+        lastPicture = {bytes, isUnsynchronised, byteArrayToImage(bytes, isUnsynchronised)};
+    }
+    m_imgAlbumArtwork = lastPicture.image;
+    if (m_imgAlbumArtwork.sizeInBytes() > largestRemembered) {
+        lastPicture = {};
+    }
     m_pictureUnreadable = m_imgAlbumArtwork.isNull();
 }
 

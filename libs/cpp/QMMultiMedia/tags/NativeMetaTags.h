@@ -98,6 +98,7 @@ private:
     /// The last picture that was encoded, shared by all objects: a batch of files with one cover
     /// holds it once. Only used on the worker's thread.
     static QByteArray g_nsImageDataCache;
+    static qint64 g_cachedImage; ///< QImage::cacheKey() of what it was made of
 
     std::shared_ptr<TagReceipt> m_receipt;
     bool m_pictureUnreadable = false;

@@ -54,6 +54,7 @@ bool reserveBeside(const QString &path, AVAssetExportSession *session, QString *
 }
 
 QByteArray NativeMetaTags::g_nsImageDataCache;
+qint64 NativeMetaTags::g_cachedImage = 0;
 
 bool NativeMetaTags::writeTo(const QString &path)
 {
@@ -154,6 +155,9 @@ QVariant NativeMetaTags::pictureValue() const
     if (m_imgAlbumArtwork.isNull()) {
         return {};
     }
+    if (m_imgAlbumArtwork.cacheKey() == g_cachedImage) {
+        return g_nsImageDataCache;
+    }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (!m_imgAlbumArtwork.save(&buffer, "JPEG", -1)) {
@@ -162,6 +166,7 @@ QVariant NativeMetaTags::pictureValue() const
     if (g_nsImageDataCache != buffer.data()) {
         g_nsImageDataCache = buffer.data();
     }
+    g_cachedImage = m_imgAlbumArtwork.cacheKey();
     return g_nsImageDataCache;
 }
 
