@@ -64,6 +64,15 @@ class Desktop:
         return subprocess.run([str(c) for c in command], env=self.env, check=check,
                               capture_output=True, text=True, timeout=60).stdout
 
+    def _start_server(self):
+        """The number of a new display; nothing if another server took it in the same moment."""
+        read, write = os.pipe()
+        self.start("Xvfb", "-displayfd", write, "-screen", 0, self.size, "-nolisten", "tcp",
+                   pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as number:
+            return number.readline().strip()
+
     def _start(self):
         runtime = self.root / "run"
         for folder in (self.home / ".config/openbox", runtime):
@@ -76,12 +85,7 @@ class Desktop:
                         QT_SCALE_FACTOR=str(self.scale))
         for name in ("WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "PULSE_SERVER", "SDL_AUDIODRIVER"):
             self.env.pop(name, None)
-        read, write = os.pipe()
-        self.start("Xvfb", "-displayfd", write, "-screen", 0, self.size, "-nolisten", "tcp",
-                   pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as number:
-            self.env["DISPLAY"] = ":" + number.readline().strip()
+        self.env["DISPLAY"] = ":" + wait_for(self._start_server, what="a display")
         bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1",
                          stdout=subprocess.PIPE, text=True)
         self.env["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
