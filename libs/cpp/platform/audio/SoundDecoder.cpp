@@ -1,7 +1,6 @@
 #include "SoundDecoder.h"
 
 #include <algorithm>
-#include <cstring>
 
 SoundDecoder::SoundDecoder(std::unique_ptr<SoundSource> source, const ClientFormat &format)
     : m_source(std::move(source))
@@ -25,7 +24,7 @@ void SoundDecoder::takePending()
 {
     const std::size_t count
         = std::min(m_pending.size() - m_taken, static_cast<std::size_t>(m_room));
-    std::memcpy(m_out, m_pending.data() + m_taken, count);
+    std::copy_n(m_pending.begin() + static_cast<std::ptrdiff_t>(m_taken), count, m_out);
     m_taken += count;
     advance(static_cast<int>(count));
 }
