@@ -9,6 +9,9 @@
 
 namespace {
 
+// Packets between two looks at the cores: a few milliseconds.
+constexpr std::int64_t lookInterval = 16;
+
 /// A little more than the packets need on average.
 std::size_t expectedPacketBytes(const AacFormat &format)
 {
@@ -27,6 +30,7 @@ ParallelEncoder::ParallelEncoder(const WavSource &source, const AacFormat &forma
     , m_starts(std::move(segmentStarts))
     , m_packets(packetCount(source.frames()))
     , m_threadCount(std::min(static_cast<std::size_t>(std::max(threads, 1)), m_starts.size()))
+    , m_spread(m_threadCount)
 {
 }
 
@@ -46,7 +50,7 @@ void ParallelEncoder::encode(const AacEncoder::Sink &sink)
 {
     while (m_threads.size() < m_threadCount) {
         try {
-            m_threads.emplace_back(&ParallelEncoder::work, this);
+            m_threads.emplace_back(&ParallelEncoder::work, this, m_threads.size());
         } catch (const std::system_error &) {
             if (m_threads.empty()) {
                 throw;
@@ -85,7 +89,7 @@ PacketRun ParallelEncoder::collect(std::size_t segment)
     return run;
 }
 
-void ParallelEncoder::work()
+void ParallelEncoder::work(std::size_t thread)
 {
     std::unique_lock lock(m_mutex);
     for (;;) {
@@ -100,10 +104,11 @@ void ParallelEncoder::work()
         lock.unlock();
         std::exception_ptr failure;
         try {
-            encodeSegment(segment);
+            encodeSegment(segment, thread);
         } catch (...) {
             failure = std::current_exception();
         }
+        m_spread.leave(thread);
         lock.lock();
         if (failure != nullptr) {
             m_failure = m_failure == nullptr ? failure : m_failure;
@@ -113,7 +118,7 @@ void ParallelEncoder::work()
     }
 }
 
-void ParallelEncoder::encodeSegment(std::size_t segment)
+void ParallelEncoder::encodeSegment(std::size_t segment, std::size_t thread)
 {
     const std::int64_t first = m_starts[segment];
     const std::int64_t end = segment + 1 == m_starts.size()
@@ -126,6 +131,9 @@ void ParallelEncoder::encodeSegment(std::size_t segment)
     const auto add = [&](const std::uint8_t *bytes, std::size_t count) {
         if (m_stop) {
             throw ConvertError("the conversion was given up");
+        }
+        if (run.end() % lookInterval == 0) {
+            m_spread.look(thread);
         }
         run.add(bytes, count);
         if (run.end() == first + Seam::overlapPackets) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AacEncoder.h"
+#include "CoreSpread.h"
 #include "PacketRun.h"
 #include <atomic>
 #include <condition_variable>
@@ -35,8 +36,8 @@ public:
     void encode(const AacEncoder::Sink &sink);
 
 private:
-    void work();
-    void encodeSegment(std::size_t segment);
+    void work(std::size_t thread);
+    void encodeSegment(std::size_t segment, std::size_t thread);
     PacketRun collect(std::size_t segment);
     bool fitsNext(std::size_t segment, const PacketRun &run);
 
@@ -45,6 +46,7 @@ private:
     std::vector<std::int64_t> m_starts;
     std::int64_t m_packets;
     std::size_t m_threadCount;
+    CoreSpread m_spread;
 
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -4,6 +4,8 @@
 #include "KeptSounds.h"
 #include <algorithm>
 #include <cstring>
+#include <ctime>
+#include <limits>
 #include <sys/resource.h>
 #include <system_error>
 
@@ -11,6 +13,38 @@ namespace {
 
 /// How many chunks a reading that isn't kept is ahead.
 constexpr std::size_t QueueChunks = 8;
+
+/// Processor time of a tail: about that by which one encoder is done before the other.
+constexpr double TailSeconds = 0.08;
+
+/// How much processor time the calling thread will still need, going by what it has needed.
+class Pace
+{
+public:
+    explicit Pace(double bytes)
+        : m_bytes(bytes)
+        , m_start(used())
+    {
+    }
+
+    /// Unlimited as long as nothing is done.
+    double secondsLeft(double done) const
+    {
+        return done > 0 ? (used() - m_start) * (m_bytes - done) / done
+                        : std::numeric_limits<double>::infinity();
+    }
+
+private:
+    static double used()
+    {
+        timespec time {};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+    }
+
+    double m_bytes;
+    double m_start;
+};
 
 }
 
@@ -157,31 +191,29 @@ void SoundReading::dropRead()
     m_changed.notify_all();
 }
 
-/// Decodes with what the encoders leave of the cores, until somebody waits for it.
+/// Decodes beside the encoders, and the tail with what they leave of the cores: they don't end at
+/// the same time, and the core of the first one is to have some work then.
 void SoundReading::runHint(const QUrl &url)
 {
-    std::unique_ptr<SoundDecoder> decoder;
-    Progress progress = Progress::Failed;
-    const auto decodeAhead = [this, &url, &decoder, &progress] {
-        constexpr int leastPriority = 19;
-        ::setpriority(PRIO_PROCESS, 0, leastPriority); // of this thread alone
-        decoder = openHint(url);
-        if (decoder != nullptr) {
-            progress = decode(*decoder, true);
-        }
-    };
-    try {
-        // A thread can't go back to its priority: this one takes over.
-        std::thread(decodeAhead).join();
-    } catch (const std::system_error &) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_ended = true;
-    }
+    const auto decoder = openHint(url);
     if (decoder == nullptr) {
         return;
     }
+    Progress progress = decode(*decoder, Until::Tail);
     if (progress == Progress::Interrupted) {
-        progress = decode(*decoder, false);
+        const auto decodeTail = [this, &decoder, &progress] {
+            constexpr int leastPriority = 19;
+            ::setpriority(PRIO_PROCESS, 0, leastPriority); // of this thread alone
+            progress = decode(*decoder, Until::Reader);
+        };
+        try {
+            // A thread can't go back to its priority: this one takes over.
+            std::thread(decodeTail).join();
+        } catch (const std::system_error &) { // then it does it all
+        }
+    }
+    if (progress == Progress::Interrupted) {
+        progress = decode(*decoder, Until::End);
     }
     finish(*decoder, progress);
 }
@@ -206,14 +238,18 @@ std::unique_ptr<SoundDecoder> SoundReading::openHint(const QUrl &url)
 
 bool SoundReading::mayFit(const SoundSource &source) const
 {
-    const double bytes = source.duration() * m_format.rate * bytesPerFrame(m_format.sample);
-    return bytes + KeptRoom::BlockBytes <= static_cast<double>(KeptRoom::Limit);
+    return expectedBytes(source) + KeptRoom::BlockBytes <= static_cast<double>(KeptRoom::Limit);
+}
+
+double SoundReading::expectedBytes(const SoundSource &source) const
+{
+    return source.duration() * m_format.rate * bytesPerFrame(m_format.sample);
 }
 
 void SoundReading::run(std::unique_ptr<SoundSource> source)
 {
     const auto decoder = attach(std::move(source));
-    finish(*decoder, decode(*decoder, false));
+    finish(*decoder, decode(*decoder, Until::End));
 }
 
 /// Makes the decoder, so that it can be cancelled from now on.
@@ -250,18 +286,21 @@ void SoundReading::finish(SoundDecoder &decoder, Progress progress)
     }
 }
 
-/// Decodes on; until somebody reads, if asked so.
-SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, bool untilRead)
+/// Decodes on, from where the last one ended.
+SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, Until until)
 {
+    const Pace pace(expectedBytes(decoder.source()));
+    double done = 0;
     for (;;) {
-        if (untilRead) {
+        if (until != Until::End) {
             const std::lock_guard<std::mutex> lock(m_mutex);
-            if (m_hasReader) {
+            if (m_hasReader || (until == Until::Tail && pace.secondsLeft(done) < TailSeconds)) {
                 return Progress::Interrupted;
             }
         }
         Chunk chunk {KeptRoom::instance().take(), 0};
         chunk.size = decoder.read(chunk.data.get(), KeptRoom::BlockBytes);
+        done += chunk.size;
         const bool last = chunk.size < KeptRoom::BlockBytes;
         if (chunk.size > 0 && !push(std::move(chunk))) {
             return Progress::Failed;

@@ -67,10 +67,18 @@ private:
     explicit SoundReading(const ClientFormat &format);
     Q_DISABLE_COPY(SoundReading)
 
+    /// When decoding ends before the end of the sound.
+    enum class Until
+    {
+        End, ///< not at all
+        Reader, ///< somebody reads
+        Tail ///< somebody reads, or little is left
+    };
+
     enum class Progress
     {
         Complete,
-        Interrupted, ///< by a reader
+        Interrupted, ///< by a reader, or the tail has come
         Failed ///< or cancelled, or there was no room
     };
 
@@ -78,9 +86,10 @@ private:
     void runHint(const QUrl &url);
     std::unique_ptr<SoundDecoder> openHint(const QUrl &url);
     std::unique_ptr<SoundDecoder> attach(std::unique_ptr<SoundSource> source);
-    Progress decode(SoundDecoder &decoder, bool untilRead);
+    Progress decode(SoundDecoder &decoder, Until until);
     void finish(SoundDecoder &decoder, Progress progress);
     bool mayFit(const SoundSource &source) const;
+    double expectedBytes(const SoundSource &source) const;
     bool push(Chunk chunk);
     bool makeRoom();
     void dropRead();
