@@ -55,6 +55,10 @@ protected:
 
     bool encode(const QString &name, const QStringList &options) const
     {
+        if (name.endsWith(u".amr"_qs)) { // only the other tool can write it
+            return MediaMaker::sox({file(u"chirp.wav"_qs), u"-r"_qs, u"8000"_qs, u"-c"_qs, u"1"_qs,
+                u"-t"_qs, u"amr-nb"_qs, file(name)});
+        }
         return MediaMaker::ffmpeg(
             QStringList {u"-i"_qs, file(u"chirp.wav"_qs)} + options + QStringList {file(name)});
     }
@@ -140,16 +144,13 @@ TEST_F(ExtAudioFileTest, CutsDelayAndPaddingAndKeepsTheTime)
         {"n.ts", {u"-c:a"_qs, u"aac"_qs}, 46080, -5},
         {"o.avi", {u"-c:a"_qs, u"libmp3lame"_qs}, 46080, -5},
         {"p.spx", {u"-c:a"_qs, u"libspeex"_qs, u"-ar"_qs, u"32000"_qs}, Frames, -5},
-        {"q.amr", {u"-c:a"_qs, u"libopencore_amrnb"_qs, u"-ar"_qs, u"8000"_qs, u"-ac"_qs, u"1"_qs},
-            Frames, -5},
+        {"q.amr", {}, Frames, -5},
         {"r.wav", {u"-c:a"_qs, u"adpcm_ima_wav"_qs}, 44748, 15},
         {"s.au", {u"-c:a"_qs, u"pcm_mulaw"_qs}, Frames, 20},
     };
     for (const auto &test : cases) {
         SCOPED_TRACE(test.name);
-        if (!encode(QLatin1String(test.name), test.options)) {
-            continue; // not every build of the tool has every encoder
-        }
+        ASSERT_TRUE(encode(QLatin1String(test.name), test.options));
         const Read read = readAll(file(QLatin1String(test.name)), 44100, 16);
         EXPECT_EQ(read.status, noErr);
         // Codecs with a frame of their own that isn't stated may end up to two of them later.
