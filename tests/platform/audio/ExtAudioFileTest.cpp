@@ -277,6 +277,30 @@ TEST_F(ExtAudioFileTest, RefusesWhatIsNoSoundByCode)
     EXPECT_EQ(ExtAudioFileDispose(chirpFile), noErr);
 }
 
+TEST_F(ExtAudioFileTest, GivesNoNoiseForEncryptedSound)
+{
+    makeChirp();
+    const QString key(32, QLatin1Char('7'));
+    ASSERT_TRUE(encode(u"a.m4a"_qs,
+        {u"-c:a"_qs, u"aac"_qs, u"-encryption_scheme"_qs, u"cenc-aes-ctr"_qs, u"-encryption_key"_qs,
+            key, u"-encryption_kid"_qs, key}));
+    EXPECT_EQ(readAll(file(u"a.m4a"_qs), 44100, 16).frames, 0);
+    // What states its protection in the header isn't even opened.
+    ASSERT_TRUE(encode(u"b.wma"_qs, {u"-c:a"_qs, u"wmav2"_qs}));
+    constexpr int headerBytes = 30; // the header's objects come behind
+    const QByteArray contentEncryption
+        = QByteArray::fromHex("fbb3112223bdd211b4b700a0c955fc6e" // its GUID, its size
+                              "3400000000000000"
+                              "00000000") // no secret data
+        + QByteArray::fromHex("0400000044524d00" // "DRM"
+                              "040000006b657900"
+                              "0400000075726c00");
+    const QByteArray clear = MediaMaker::bytesOf(file(u"b.wma"_qs));
+    ASSERT_TRUE(MediaMaker::writeFile(
+        file(u"b.wma"_qs), clear.left(headerBytes) + contentEncryption + clear.mid(headerBytes)));
+    EXPECT_EQ(readAll(file(u"b.wma"_qs), 44100, 16).status, statusCode("fmt?"));
+}
+
 TEST_F(ExtAudioFileTest, EndsOnDamagedAndCutFiles)
 {
     makeChirp();

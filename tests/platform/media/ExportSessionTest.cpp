@@ -66,6 +66,18 @@ TEST(ExportSession, ReplacesAllMetadataAndNeverAFile)
         EXPECT_EQ(bad.status(), AVAssetExportSessionStatusFailed);
         EXPECT_FALSE(QFile::exists(dir.filePath(u"c.m4a"_qs)));
     }
+
+    // Encrypted samples are found through offsets that would point elsewhere afterwards.
+    const QString key(32, QLatin1Char('7'));
+    const QString locked = dir.filePath(u"locked.m4a"_qs);
+    ASSERT_TRUE(
+        MediaMaker::ffmpeg({u"-i"_qs, source, u"-c"_qs, u"copy"_qs, u"-encryption_scheme"_qs,
+            u"cenc-aes-ctr"_qs, u"-encryption_key"_qs, key, u"-encryption_kid"_qs, key, locked}));
+    AVAssetExportSession refused = session(locked, dir.filePath(u"d.m4a"_qs));
+    refused.exportAsynchronouslyWithCompletionHandler({});
+    PendingExports::waitForAll();
+    EXPECT_EQ(refused.status(), AVAssetExportSessionStatusFailed);
+    EXPECT_FALSE(QFile::exists(dir.filePath(u"d.m4a"_qs)));
 }
 
 TEST(ExportSession, LeavesNothingOnAFullDisk)

@@ -1,5 +1,6 @@
 #include "SoundSource.h"
 
+#include "StreamFacts.h"
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -64,18 +65,6 @@ const std::string &soundDecoders()
     return names;
 }
 
-bool isSound(const AVStream *stream)
-{
-    return stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO;
-}
-
-bool isComplete(const AVStream *stream)
-{
-    const AVCodecParameters *parameters = stream->codecpar;
-    return parameters->codec_id != AV_CODEC_ID_NONE && parameters->sample_rate > 0
-        && parameters->ch_layout.nb_channels > 0;
-}
-
 bool isVorbisHeader(const AVPacket &packet)
 {
     return packet.size >= 7 && std::memcmp(packet.data + 1, "vorbis", 6) == 0;
@@ -84,27 +73,6 @@ bool isVorbisHeader(const AVPacket &packet)
 bool isOpusHeader(const AVPacket &packet)
 {
     return packet.size >= 19 && std::memcmp(packet.data, "OpusHead", 8) == 0;
-}
-
-/// Whether the header alone told what is needed, length included.
-bool headerTellsAll(const AVFormatContext *container)
-{
-    if ((container->ctx_flags & AVFMTCTX_NOHEADER) != 0) {
-        return false;
-    }
-    bool found = false;
-    for (unsigned i = 0; i < container->nb_streams; ++i) {
-        const AVStream *stream = container->streams[i];
-        if (!isSound(stream)) {
-            continue;
-        }
-        const bool hasLength = stream->duration > 0 || container->duration > 0;
-        if (!isComplete(stream) || !hasLength) {
-            return false;
-        }
-        found = true;
-    }
-    return found;
 }
 
 }
@@ -205,14 +173,14 @@ OSStatus SoundSource::chooseStream()
             stream->codecpar->codec_id = AV_CODEC_ID_NONE;
         }
     }
-    if (!headerTellsAll(m_container.get())) {
+    if (!StreamFacts::headerTellsAll(m_container.get())) {
         avformat_find_stream_info(m_container.get(), nullptr);
     }
     bool anySound = false;
     for (unsigned i = 0; i < m_container->nb_streams; ++i) {
         AVStream *stream = m_container->streams[i];
         stream->discard = AVDISCARD_ALL;
-        if (!isSound(stream)) {
+        if (!StreamFacts::isSound(stream)) {
             continue;
         }
         anySound = true;
@@ -223,11 +191,11 @@ OSStatus SoundSource::chooseStream()
             m_stream = stream;
         }
     }
-    if (m_stream == nullptr) {
+    if (m_stream == nullptr || StreamFacts::isEncrypted(m_container.get(), m_stream)) {
         return anySound ? kAudioFileUnsupportedDataFormatError : kAudioFileUnsupportedFileTypeError;
     }
     m_stream->discard = AVDISCARD_DEFAULT;
-    return isComplete(m_stream) ? noErr : kAudioFileInvalidFileError;
+    return StreamFacts::isComplete(m_stream) ? noErr : kAudioFileInvalidFileError;
 }
 
 OSStatus SoundSource::openDecoder()
@@ -384,7 +352,8 @@ bool SoundSource::readPacket()
         }
         if (read < 0) {
             ++failures;
-        } else if (m_packet->stream_index == m_stream->index) {
+        } else if (m_packet->stream_index == m_stream->index
+            && !StreamFacts::isEncrypted(*m_packet)) {
             return true;
         } else {
             av_packet_unref(m_packet.get());

@@ -24,7 +24,8 @@ struct SoundPiece
 /// The default sound stream of a media file, demuxed and decoded.
 ///
 /// Other streams and attached pictures are never decoded. Delay and padding that the file states
-/// are cut. A damaged packet is left out. Rate and channels may change from piece to piece.
+/// are cut. A damaged packet is left out, and so is an encrypted one: there's no key to it here.
+/// Rate and channels may change from piece to piece.
 class SoundSource
 {
 public:
