@@ -2,6 +2,7 @@
 #include "App_mac.h"
 #include "AudioPlayer.h"
 #include "ConverterResources.h"
+#include "FileInput.h"
 #include "Literals.h"
 #include "MainPage.h"
 #include "MakerHosts.h"
@@ -112,6 +113,7 @@ int main(int argc, char **argv)
     }
     app.checkUpdateOnStartLater();
     initProgramIdentity();
+    QMMultiMedia::FileInput::setTempPath(QMWidgets::App::cachesDirectory(false));
     initTranslationResources();
     QMWidgets::TranslationsManager::instance();
     Os::instance();

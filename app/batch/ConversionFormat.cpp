@@ -3,19 +3,6 @@
 #include "AppSettingsDialog.h"
 #include "Literals.h"
 
-namespace {
-
-/// The encoder's 0 to 127 as one of the classes of the format record.
-int qualityClass(int quality)
-{
-    if (quality >= 85 && quality <= 127) {
-        return 4;
-    }
-    return quality >= 23 && quality <= 84 ? 2 : 0;
-}
-
-}
-
 QMMultiMedia::MAudioFormat conversionFormat()
 {
     QMMultiMedia::MAudioFormat format;
@@ -24,7 +11,7 @@ QMMultiMedia::MAudioFormat conversionFormat()
     format.bitsPerSample = AppSettingsDialog::bitsPerSample();
     format.channels = AppSettingsDialog::channels();
     format.bitRate = AppSettingsDialog::bitRate();
-    format.quality = qualityClass(AppSettingsDialog::quality());
+    format.quality = QMMultiMedia::MAudioFormat::qualityClass(AppSettingsDialog::quality());
     // The decoder knows one and two channels and the three widths; anything else would give a file
     // whose header doesn't fit its samples.
     if (format.channels != 1 && format.channels != 2) {

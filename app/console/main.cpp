@@ -2,6 +2,7 @@
 #include "ConsoleArguments.h"
 #include "ConsoleProgress.h"
 #include "ConsoleRun.h"
+#include "FileInput.h"
 #include "Literals.h"
 #include "ProcessStart.h"
 #include "ProgramIdentity.h"
@@ -19,6 +20,7 @@ int main(int argc, char **argv)
     QMWidgets::App::disableTerminalOuput();
     QMWidgets::App app(argc, argv, programOrganisation(), programName());
     initProgramIdentity();
+    QMMultiMedia::FileInput::setTempPath(QMWidgets::App::cachesDirectory(false));
     if (!QMWidgets::App::isSigned()) {
         QMWidgets::App::setTerminalOuputToFile();
     }

@@ -3,6 +3,7 @@
 #include "App.h"
 #include "AppSettingsDialog.h"
 #include "Literals.h"
+#include "MAudioFormat.h"
 
 namespace AppSettings {
 
@@ -128,7 +129,5 @@ QString AppSettingsDialog::codec()
 
 QString AppSettingsDialog::codecName(int index)
 {
-    static const QString names[] = {u"WAV"_qs, u"AIFF"_qs, u"MPEG4ACC"_qs, u"CAF"_qs, u"FLAC"_qs};
-    const int count = static_cast<int>(std::size(names));
-    return index >= 0 && index < count ? names[index] : QString();
+    return QMMultiMedia::MAudioFormat::codecName(index);
 }

@@ -258,6 +258,12 @@ TEST_F(FileInputTest, PeaksOfSamplesAreCachedAndStaleOnesAreNot)
     bytes[132] = '\xFF';
     ASSERT_TRUE(MediaMaker::writeFile(cached, bytes));
     EXPECT_EQ(firstPeak(), 1.0f);
+    WaveInput direct;
+    ASSERT_TRUE(direct.load(encoded.constData(), false));
+    EXPECT_TRUE(direct.loadEnvelope(QFile::encodeName(cached).constData()));
+    ASSERT_TRUE(MediaMaker::writeFile(cached, bytes.left(131)));
+    EXPECT_FALSE(direct.loadEnvelope(QFile::encodeName(cached).constData()));
+    EXPECT_EQ(direct.peakInfo(2, 0, 256).first, 1.0f) << "what was there stays";
     // Cut short, of other channels, of another sound, not a cache at all: built anew.
     QByteArray channels = bytes;
     channels[24] = 3;

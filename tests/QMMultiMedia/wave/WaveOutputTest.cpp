@@ -192,6 +192,13 @@ TEST_F(WaveOutputTest, FailuresShow)
     odd.write(samples.data(), 100);
     EXPECT_TRUE(odd.close());
     EXPECT_EQ(odd.numSamples(), 0U) << "a format that isn't known writes nothing";
+
+    WaveOutput raw(QFile::encodeName(path()).constData(), {48000, 1, 1, 16}, {}, nullptr, false);
+    raw.setSettings({48000, 1, 32, 16});
+    raw.write(samples.data(), 100);
+    EXPECT_TRUE(raw.close());
+    EXPECT_EQ(bytes().mid(44, 400), QByteArray(reinterpret_cast<char *>(samples.data()), 400))
+        << "floats as they are, whatever the width";
 }
 
 // A disk that fills up in the middle: the header tells how much there should be, so that nobody

@@ -1,6 +1,7 @@
 #include "MAudioFormat.h"
 
 #include "Literals.h"
+#include <algorithm>
 #include <QStringList>
 
 namespace QMMultiMedia {

@@ -33,7 +33,7 @@ QString field(const QString &value, int width)
 /// The text up to its first zero character, for the log.
 QString shown(const QString &text)
 {
-    return text.left(std::max(text.indexOf(QChar(0)), -1));
+    return text.left(text.indexOf(QChar(0)));
 }
 
 template <typename T> void append(QByteArray *bytes, T value)

@@ -80,6 +80,9 @@ QString FileInput::tempFilePath()
 
 QString FileInput::tempFilePathAndName() const
 {
+    if (tempPath().isEmpty()) {
+        return {};
+    }
     QDir().mkpath(tempFilePath());
     QString fileName = fileInfo().url().path();
     return tempFilePath() + fileName.replace(u'/', u'_').replace(u':', u'_');

@@ -50,7 +50,8 @@ public:
     static QString tempPath();
     /// tempPath() and "/AudioTemp/".
     static QString tempFilePath();
-    /// A file in that folder, which is made, named after this file's path.
+    /// A file in that folder, which is made, named after this file's path; empty without a
+    /// tempPath().
     QString tempFilePathAndName() const;
     /// The file of the cached peaks.
     QString envelopeLocation() const;

@@ -106,8 +106,14 @@ bool FileInput::loadEnvelope(const char *path)
     if (!envelope->initFromHeader(file.get())) {
         return false;
     }
+    const MTools::Handle<EBUEnvelope> before = m_ebuEnvelope;
     m_ebuEnvelope = envelope;
-    return buildPeakVectorFromChunk(file.get(), static_cast<long>(envelope->offsetToPeaks()));
+    if (!buildPeakVectorFromChunk(file.get(), static_cast<long>(envelope->offsetToPeaks()))) {
+        m_ebuEnvelope = before;
+        return false;
+    }
+    m_nEnvelopeOffset = 0; // these peaks aren't those of the sound's own chunk
+    return true;
 }
 
 /// Whether the peaks are those of a sound of this length and so many channels.
@@ -163,10 +169,10 @@ void FileInput::createPeakVector()
     }
 }
 
-/// Reads peaks of the envelope's form at a place of a file; false if they aren't all there.
+/// Reads peaks of the envelope's form at a place of a file; false, and the peaks as they were, if
+/// they aren't all there.
 bool FileInput::buildPeakVectorFromChunk(std::FILE *file, const long &offset)
 {
-    m_peakVector->clear();
     const EBUEnvelope::Format format = m_ebuEnvelope->format();
     if (format != EBUEnvelope::Format8Bit && format != EBUEnvelope::Format16Bit) {
         std::fputs("Unknown envelopes creation format\n", stderr);
@@ -180,6 +186,7 @@ bool FileInput::buildPeakVectorFromChunk(std::FILE *file, const long &offset)
         || fseeko(file, offset, SEEK_SET) != 0) {
         return false;
     }
+    m_peakVector->clear();
     readPeaks(file, *m_ebuEnvelope, m_peakVector.get());
     return true;
 }

@@ -4,7 +4,6 @@
 #include "SampleTime.h"
 #include "Util.h"
 #include <cstddef>
-#include <limits>
 #include <QDebug>
 #include <QtEndian>
 #include <unistd.h>
@@ -178,7 +177,7 @@ int WaveOutput::write(float *samples, int n)
 {
     const short fmt = m_settings.fmt();
     const short bits = m_settings.bitsPerSample();
-    const bool wide = bits == 32 && (fmt == Settings::SignedLittle || fmt == Settings::SignedBig);
+    const bool wide = fmt == Settings::SignedBig || (fmt == Settings::SignedLittle && bits == 32);
     const bool narrow = (fmt == Settings::SignedLittle && bits == 16) || fmt == Settings::Unsigned8
         || fmt == Settings::Signed24Normal;
     if (!wide && !narrow) {
