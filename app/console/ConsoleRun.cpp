@@ -42,7 +42,7 @@ QString number(int count, const char *one, const char *many)
 QString lostTags(const RunReceipt &receipt)
 {
     using QMMultiMedia::TagReceipt;
-    if (!receipt.tags || receipt.tags->state() == TagReceipt::State::Nothing) {
+    if (!receipt.tags) {
         return {};
     }
     if (receipt.tags->state() == TagReceipt::State::Failed) {

@@ -121,6 +121,20 @@ TEST_F(ConsoleTest, ConvertsAFolderAndSaysWhatCameOfIt)
     EXPECT_EQ(MediaMaker::probe(folder + u"/album/a.m4a"_qs, u"stream=codec_name"_qs), u"aac"_qs);
 }
 
+TEST_F(ConsoleTest, TellsOfACoverThatIsTheOnlyTagAndCantBeRead)
+{
+    const QString plain = in(u"plain.mp3"_qs);
+    ASSERT_TRUE(MediaMaker::ffmpeg(
+        {u"-f"_qs, u"lavfi"_qs, u"-i"_qs, u"sine=d=1"_qs, u"-id3v2_version"_qs, u"0"_qs, plain}));
+    const QByteArray frame = QByteArray("APIC\0\0\0\x16\0\0\0image/jpeg\0\3\0", 24) + "no image";
+    const QByteArray head = QByteArray("ID3\3\0\0\0\0\0", 9) + char(frame.size());
+    ASSERT_TRUE(MediaMaker::writeFile(in(u"a.mp3"_qs), head + frame + MediaMaker::bytesOf(plain)));
+    const ToolResult result = convert({in(u"a.mp3"_qs)});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.standardError.contains("  tags lost: picture\n"))
+        << result.standardError.constData();
+}
+
 TEST_F(ConsoleTest, RefusesBeforeAnythingIsMade)
 {
     const QString file = tone(u"a.wav"_qs);

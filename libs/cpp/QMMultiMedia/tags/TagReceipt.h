@@ -15,7 +15,7 @@ class TagReceipt
 public:
     enum class State
     {
-        Nothing, ///< the source had no tags, nothing was written
+        Nothing, ///< nothing was written: the source had no tags but what lost() tells
         Pending, ///< the export isn't over
         Written, ///< the file has its tags
         Failed ///< the file is as it was, without tags
