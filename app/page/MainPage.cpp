@@ -270,18 +270,28 @@ void MainPage::restoreSize()
 void MainPage::showEvent(QShowEvent *event)
 {
     PromoMainPage::showEvent(event);
-    // By then the window manager has told how large its frame is.
-    QTimer::singleShot(frameDelayMs, this, [this] { fitToScreen(); });
+    if (!event->spontaneous()) { // a window that was minimised keeps the size that it had
+        // By then the window manager has told how large its frame is.
+        QTimer::singleShot(frameDelayMs, this, [this] { fitToScreen(); });
+    }
 }
 
-/// On a small screen the lower edge with its buttons would be out of reach.
+/// On a small screen the edges with their buttons would be out of reach, also with a size from a
+/// larger one.
 void MainPage::fitToScreen()
 {
-    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    const int excess = frameGeometry().height() - room.height();
-    if (isWindow() && !isFullScreen() && excess > frameTolerance) {
-        resize(width(), height() - excess);
-        move(x(), room.top());
+    if (!isWindow() || isFullScreen() || isMaximized()) {
+        return;
+    }
+    const QRect room = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    const int wide = frame.width() - room.width();
+    const int high = frame.height() - room.height();
+    const QSize size(wide > frameTolerance ? width() - wide : width(),
+        high > frameTolerance ? height() - high : height());
+    if (size != this->size()) {
+        resize(size);
+        move(wide > frameTolerance ? room.left() : x(), high > frameTolerance ? room.top() : y());
     }
 }
 
@@ -356,8 +366,8 @@ void MainPage::slotUpdateInfo()
 {
     const int count = m_pmodel->rowCount();
     m_pcmdConvert->setEnabled(count != 0);
-    m_plblInfo->setText(u"<H2><CENTER>%1 media file%2</CENTER></H2>"_qs.arg(count).arg(
-        count == 1 ? QString() : u"s"_qs));
+    const QString text = count == 1 ? tr("%1 media file") : tr("%1 media files");
+    m_plblInfo->setText(u"<H2><CENTER>%1</CENTER></H2>"_qs.arg(text.arg(count)));
 }
 
 void MainPage::slotRemove()

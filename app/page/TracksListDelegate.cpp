@@ -137,7 +137,7 @@ void TracksListDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     painter->setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter->setFont(fontOf(option, QFont::Bold, 15));
     // The popup button covers what lies to the right of its left edge.
-    const int width = std::min(row.right() - row.left() - 42, row.width() - 36 - area.left());
+    const int width = row.width() - 36 - area.left();
     painter->drawText(area, static_cast<int>(Qt::AlignLeft | Qt::AlignAbsolute),
         painter->fontMetrics().elidedText(name, Qt::ElideMiddle, width));
 

@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPointer>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -98,7 +99,7 @@ BatchDialog::BatchDialog(QWidget *parent)
 void BatchDialog::createWidgets()
 {
     m_pprogressFile = new QMWidgets::SimpleProgress(this);
-    m_pprogressFile->setText(u"ANALYZING"_qs);
+    m_pprogressFile->setText(tr("ANALYZING"));
     m_pprogressFile->setMinimumHeight(28);
     m_pprogressTotal = new QMWidgets::RoundProgress(this);
     m_pcmdPause = new QPushButton(tr("Pause"), this);
@@ -171,7 +172,7 @@ void BatchDialog::slotProgressChanged(int percent)
     m_pcmdClose->setFocus();
     m_pcmdStop->hide();
     m_pcmdPause->hide();
-    m_pprogressFile->setText(u"DONE"_qs);
+    m_pprogressFile->setText(tr("DONE"));
 }
 
 void BatchDialog::slotFileProgressChanged(int percent)
@@ -211,21 +212,25 @@ void BatchDialog::slotShowErrors()
 
 void BatchDialog::slotNotEnoughtFreeSpace()
 {
-    m_pprogressFile->setText(u"NOT ENOUGH FREE SPACE"_qs);
+    m_pprogressFile->setText(tr("NOT ENOUGH FREE SPACE"));
     {
         // The run has paused itself: it isn't to be told.
         const QSignalBlocker blocker(m_pcmdPause);
         m_pcmdPause->setChecked(true);
         m_pcmdPause->setText(tr("Resume"));
     }
-    QMessageBox::warning(QMWidgets::App::mainWidget(), u"Not enough free space"_qs,
-        u"<H3>Not enough free space</H3>Conversion paused.<br>Free up space and click \"Resume\"."
-        "<br>To stop conversion, click \"Stop\"."_qs,
+    QMessageBox::warning(QMWidgets::App::mainWidget(), tr("Not enough free space"),
+        tr("<H3>Not enough free space</H3>Conversion paused.<br>Free up space and click \"Resume\"."
+           "<br>To stop conversion, click \"Stop\"."),
         QMessageBox::Ok);
 }
 
 void BatchDialog::showEvent(QShowEvent *event)
 {
+    if (event->spontaneous()) { // back from being minimised, with the run as it is
+        QDialog::showEvent(event);
+        return;
+    }
     m_pcmdPause->setChecked(false);
     m_pcmdPause->setText(tr("Pause"));
     m_pprogressFile->setValue(0);

@@ -1,6 +1,6 @@
-// Over 500 lines: the two pages, the rules between their boxes and the storing are read together.
 #include "AppSettingsDialog.h"
 
+#include "AacRates.h"
 #include "App.h"
 #include "AppSettings.h"
 #include "DecoratedDial.h"
@@ -22,51 +22,13 @@
 #include <QLCDNumber>
 #include <QPushButton>
 #include <QScreen>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QTimer>
 
 namespace {
 
 constexpr int LongestFadeSeconds = 33;
-
-/// The bit rates that a sample rate carries; 0 for no limit.
-struct SampleRateRule
-{
-    int sampleRate;
-    int lowestBitRate;
-    int highestBitRate;
-};
-
-constexpr SampleRateRule SampleRateRules[] = {
-    {11025, 0, 64000},
-    {16000, 0, 96000},
-    {22050, 0, 128000},
-    {24000, 0, 128000},
-    {32000, 0, 192000},
-    {88200, 64000, 0},
-    {96000, 64000, 0},
-};
-
-/// What the bit rates of a range do to sample rates that can't carry them: those from
-/// tooHighSampleRate, or those up to tooLowSampleRate, become the new one.
-struct BitRateRule
-{
-    int lowestBitRate;
-    int highestBitRate;
-    int tooHighSampleRate;
-    int tooLowSampleRate;
-    int newSampleRate;
-};
-
-constexpr int NoLimit = std::numeric_limits<int>::max();
-
-constexpr BitRateRule BitRateRules[] = {
-    {0, 63999, 88200, 0, 48000},
-    {192001, NoLimit, NoLimit, 32000, 44100},
-    {128001, 192000, NoLimit, 24000, 32000},
-    {96001, 128000, NoLimit, 16000, 22050},
-    {64001, 96000, NoLimit, 11025, 16000},
-};
 
 /// An English text keeps its order in a window that runs from right to left.
 QString inOwnDirection(const QString &text)
@@ -145,7 +107,8 @@ void AppSettingsDialog::createFormatBoxes()
 
     m_pcbxSampleRate = new QComboBox(this);
     m_pcbxSampleRate->setObjectName(u"m_pcbxSampleRate"_qs);
-    const int highestRate = currentVariant() == Variant::Mp3 ? 48000 : NoLimit;
+    const int highestRate
+        = currentVariant() == Variant::Mp3 ? 48000 : std::numeric_limits<int>::max();
     for (const AppSettings::Rate &rate : AppSettings::SampleRates) {
         if (rate.value <= highestRate) {
             m_pcbxSampleRate->addItem(inOwnDirection(QString::fromLatin1(rate.text)), rate.value);
@@ -435,43 +398,27 @@ void AppSettingsDialog::slotSaveSettings()
 
 void AppSettingsDialog::slotGotoFilesLocation() { }
 
+bool AppSettingsDialog::hasRates() const
+{
+    return currentVariant() == Variant::M4a && m_pcbxSampleRate->currentIndex() >= 0
+        && m_pcbxBitRate->currentIndex() >= 0;
+}
+
 void AppSettingsDialog::slotSampleRateChanged()
 {
-    if (currentVariant() != Variant::M4a || m_pcbxSampleRate->currentIndex() < 0
-        || m_pcbxBitRate->currentIndex() < 0) {
-        return;
-    }
-    const int rate = selectedValue(m_pcbxSampleRate);
-    const int bits = selectedValue(m_pcbxBitRate);
-    for (const SampleRateRule &rule : SampleRateRules) {
-        if (rule.sampleRate != rate) {
-            continue;
-        }
-        if (rule.highestBitRate > 0 && bits > rule.highestBitRate) {
-            selectValue(m_pcbxBitRate, rule.highestBitRate);
-        } else if (bits < rule.lowestBitRate) {
-            selectValue(m_pcbxBitRate, rule.lowestBitRate);
-        }
-        return;
+    const int bitRate = selectedValue(m_pcbxBitRate);
+    const int carried = AacRates::bitRateFor(selectedValue(m_pcbxSampleRate), bitRate);
+    if (hasRates() && carried != bitRate) {
+        selectValue(m_pcbxBitRate, carried);
     }
 }
 
 void AppSettingsDialog::slotBitRateChanged()
 {
-    if (currentVariant() != Variant::M4a || m_pcbxSampleRate->currentIndex() < 0
-        || m_pcbxBitRate->currentIndex() < 0) {
-        return;
-    }
-    const int rate = selectedValue(m_pcbxSampleRate);
-    const int bits = selectedValue(m_pcbxBitRate);
-    for (const BitRateRule &rule : BitRateRules) {
-        if (bits < rule.lowestBitRate || bits > rule.highestBitRate) {
-            continue;
-        }
-        if (rate >= rule.tooHighSampleRate || rate <= rule.tooLowSampleRate) {
-            selectValue(m_pcbxSampleRate, rule.newSampleRate);
-        }
-        return;
+    const int sampleRate = selectedValue(m_pcbxSampleRate);
+    const int carrying = AacRates::sampleRateFor(selectedValue(m_pcbxBitRate), sampleRate);
+    if (hasRates() && carrying != sampleRate) {
+        selectValue(m_pcbxSampleRate, carrying);
     }
 }
 
@@ -479,6 +426,10 @@ void AppSettingsDialog::slotQualityChanged() { }
 
 void AppSettingsDialog::showEvent(QShowEvent *event)
 {
+    if (event->spontaneous()) { // back from being minimised, with what the user has changed
+        QDialog::showEvent(event);
+        return;
+    }
     slotLoadSettings();
     fitToScreen();
     QDialog::showEvent(event);

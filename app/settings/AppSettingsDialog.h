@@ -74,6 +74,7 @@ private:
     QWidget *generalTab();
     QWidget *effectsTab();
 
+    bool hasRates() const; ///< whether the two boxes of rates have rows that belong together
     void createWidgets();
     void createLayout();
     void connectSignals();

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>استئناف</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>جارٍ التحليل</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>تم</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>لا توجد مساحة كافية</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>لا توجد مساحة كافية</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;لا توجد مساحة كافية&lt;/H3&gt;التحويل متوقف مؤقتًا.&lt;br&gt;أفرغ بعض المساحة ثم انقر «استئناف».&lt;br&gt;لإنهاء التحويل انقر «إيقاف».</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>تشغيل أو إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>ملفات الوسائط: %1</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>ملفات الوسائط: %1</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALYSE</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>FERTIG</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>NICHT GENUG FREIER SPEICHERPLATZ</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Nicht genug freier Speicherplatz</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Nicht genug freier Speicherplatz&lt;/H3&gt;Die Umwandlung ist angehalten.&lt;br&gt;Geben Sie Speicherplatz frei und klicken Sie auf „Fortsetzen“.&lt;br&gt;Um die Umwandlung zu beenden, klicken Sie auf „Stopp“.</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Bitte überprüfen Sie das Ziel.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Wiedergabe oder Pause</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 Mediendatei</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 Mediendateien</translation>
     </message>
 </context>
 <context>

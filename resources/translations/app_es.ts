@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Reanudar</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALIZANDO</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>TERMINADO</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>NO HAY SUFICIENTE ESPACIO LIBRE</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>No hay suficiente espacio libre</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;No hay suficiente espacio libre&lt;/H3&gt;La conversión está en pausa.&lt;br&gt;Libere espacio y haga clic en «Reanudar».&lt;br&gt;Para terminar la conversión, haga clic en «Detener».</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Compruebe el destino.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Reproducir o pausar</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 archivo multimedia</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 archivos multimedia</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Reprendre</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALYSE</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>TERMINÉ</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>ESPACE LIBRE INSUFFISANT</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Espace libre insuffisant</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Espace libre insuffisant&lt;/H3&gt;La conversion est en pause.&lt;br&gt;Libérez de l’espace et cliquez sur « Reprendre ».&lt;br&gt;Pour arrêter la conversion, cliquez sur « Arrêter ».</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Veuillez vérifier la destination.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Lire ou mettre en pause</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 fichier multimédia</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 fichiers multimédias</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>फिर शुरू करें</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>विश्लेषण हो रहा है</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>पूर्ण</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>पर्याप्त खाली स्थान नहीं</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>पर्याप्त खाली स्थान नहीं है</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;पर्याप्त खाली स्थान नहीं है&lt;/H3&gt;रूपांतरण रुका हुआ है।&lt;br&gt;स्थान खाली करें और “फिर शुरू करें” पर क्लिक करें।&lt;br&gt;रूपांतरण समाप्त करने के लिए “रोकें” पर क्लिक करें।</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>चलाएँ या विराम दें</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 मीडिया फ़ाइल</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 मीडिया फ़ाइलें</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Riprendi</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALISI</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>FATTO</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>SPAZIO LIBERO INSUFFICIENTE</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Spazio libero insufficiente</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Spazio libero insufficiente&lt;/H3&gt;La conversione è in pausa.&lt;br&gt;Liberare spazio e fare clic su “Riprendi”.&lt;br&gt;Per terminare la conversione, fare clic su “Ferma”.</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Verifica la destinazione.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Riproduci o metti in pausa</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 file multimediale</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 file multimediali</translation>
     </message>
 </context>
 <context>

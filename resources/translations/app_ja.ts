@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>再開</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>解析中</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>空き容量不足</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>空き容量が足りません</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;空き容量が足りません&lt;/H3&gt;変換を一時停止しました。&lt;br&gt;空き容量を増やしてから「再開」をクリックしてください。&lt;br&gt;変換を終了するには「停止」をクリックしてください。</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>再生/一時停止</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>メディアファイル %1 個</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>メディアファイル %1 個</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>계속</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>분석 중</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>여유 공간 부족</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>여유 공간 부족</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;여유 공간 부족&lt;/H3&gt;변환이 일시 정지되었습니다.&lt;br&gt;공간을 확보한 다음 “계속”을 클릭하십시오.&lt;br&gt;변환을 끝내려면 “중지”를 클릭하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>재생 또는 일시 정지</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>미디어 파일 %1개</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>미디어 파일 %1개</translation>
     </message>
 </context>
 <context>

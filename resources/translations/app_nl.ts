@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Hervatten</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALYSEREN</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>KLAAR</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>NIET GENOEG VRIJE RUIMTE</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Niet genoeg vrije ruimte</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Niet genoeg vrije ruimte&lt;/H3&gt;De conversie is gepauzeerd.&lt;br&gt;Maak ruimte vrij en klik op ‘Hervatten’.&lt;br&gt;Klik op ‘Stoppen’ om de conversie te beëindigen.</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Controleer de doelmap.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Afspelen of pauzeren</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 mediabestand</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 mediabestanden</translation>
     </message>
 </context>
 <context>

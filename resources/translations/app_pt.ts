@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>ANALISANDO</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>CONCLUÍDO</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>ESPAÇO LIVRE INSUFICIENTE</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Espaço livre insuficiente</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Espaço livre insuficiente&lt;/H3&gt;A conversão está pausada.&lt;br&gt;Libere espaço e clique em “Continuar”.&lt;br&gt;Para encerrar a conversão, clique em “Parar”.</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Verifique o destino.</translation>
     <message>
         <source>Play or pause</source>
         <translation>Reproduzir ou pausar</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 arquivo de mídia</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 arquivos de mídia</translation>
     </message>
 </context>
 <context>

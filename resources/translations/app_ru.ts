@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>Продолжить</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>АНАЛИЗ</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>ГОТОВО</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>НЕДОСТАТОЧНО МЕСТА</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>Недостаточно свободного места</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;Недостаточно свободного места&lt;/H3&gt;Преобразование приостановлено.&lt;br&gt;Освободите место и нажмите «Продолжить».&lt;br&gt;Чтобы завершить преобразование, нажмите «Стоп».</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>Воспроизвести или приостановить</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>Медиафайлов: %1</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>Медиафайлов: %1</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>继续</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>正在分析</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>可用空间不足</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>可用空间不足</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;可用空间不足&lt;/H3&gt;转换已暂停。&lt;br&gt;请释放一些空间，然后点击“继续”。&lt;br&gt;要结束转换，请点击“停止”。</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>播放或暂停</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 个媒体文件</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 个媒体文件</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,26 @@
         <source>Resume</source>
         <translation>繼續</translation>
     </message>
+    <message>
+        <source>ANALYZING</source>
+        <translation>正在分析</translation>
+    </message>
+    <message>
+        <source>DONE</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>NOT ENOUGH FREE SPACE</source>
+        <translation>可用空間不足</translation>
+    </message>
+    <message>
+        <source>Not enough free space</source>
+        <translation>可用空間不足</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Not enough free space&lt;/H3&gt;Conversion paused.&lt;br&gt;Free up space and click &quot;Resume&quot;.&lt;br&gt;To stop conversion, click &quot;Stop&quot;.</source>
+        <translation>&lt;H3&gt;可用空間不足&lt;/H3&gt;轉換已暫停。&lt;br&gt;請釋出一些空間，然後按一下「繼續」。&lt;br&gt;若要結束轉換，請按一下「停止」。</translation>
+    </message>
 </context>
 <context>
     <name>BatchWorker</name>
@@ -411,6 +431,14 @@ Please verify the destination.</source>
     <message>
         <source>Play or pause</source>
         <translation>播放或暫停</translation>
+    </message>
+    <message>
+        <source>%1 media file</source>
+        <translation>%1 個媒體檔</translation>
+    </message>
+    <message>
+        <source>%1 media files</source>
+        <translation>%1 個媒體檔</translation>
     </message>
 </context>
 <context>

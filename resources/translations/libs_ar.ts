@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>إلغاء (&amp;C)</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;جارٍ البحث عن ملفات الوسائط.&lt;br&gt;يرجى الانتظار…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;ملفات الفيديو: %1&lt;BR&gt;ملفات الصوت: %2&lt;BR&gt;ملفات الصور: %3&lt;BR&gt;الملفات النصية: %4&lt;BR&gt;ملفات أخرى: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

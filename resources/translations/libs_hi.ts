@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>रद्द करें (&amp;C)</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;मीडिया फ़ाइलें खोजी जा रही हैं।&lt;br&gt;कृपया प्रतीक्षा करें…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;वीडियो फ़ाइलें: %1&lt;BR&gt;ऑडियो फ़ाइलें: %2&lt;BR&gt;चित्र फ़ाइलें: %3&lt;BR&gt;टेक्स्ट फ़ाइलें: %4&lt;BR&gt;अन्य फ़ाइलें: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Annulla</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Ricerca dei file multimediali.&lt;br&gt;Attendere…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;File video: %1&lt;BR&gt;File audio: %2&lt;BR&gt;File immagine: %3&lt;BR&gt;File di testo: %4&lt;BR&gt;Altri file: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>キャンセル(&amp;C)</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;メディアファイルを検索しています。&lt;br&gt;お待ちください…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;動画ファイル: %1&lt;BR&gt;音声ファイル: %2&lt;BR&gt;画像ファイル: %3&lt;BR&gt;テキストファイル: %4&lt;BR&gt;その他のファイル: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>취소(&amp;C)</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;미디어 파일을 찾는 중입니다.&lt;br&gt;잠시 기다려 주십시오…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;비디오 파일: %1&lt;BR&gt;오디오 파일: %2&lt;BR&gt;이미지 파일: %3&lt;BR&gt;텍스트 파일: %4&lt;BR&gt;기타 파일: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

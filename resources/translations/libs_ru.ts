@@ -26,6 +26,14 @@
         <source>&amp;Cancel</source>
         <translation>О&amp;тмена</translation>
     </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;Searching for the media files.&lt;br&gt;Please, wait...&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Поиск медиафайлов.&lt;br&gt;Пожалуйста, подождите…&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;Video Files: %1&lt;BR&gt;Audio Files: %2&lt;BR&gt;Image Files: %3&lt;BR&gt;Text Files: %4&lt;BR&gt;Other Files: %5&lt;BR&gt;&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;Видеофайлы: %1&lt;BR&gt;Аудиофайлы: %2&lt;BR&gt;Изображения: %3&lt;BR&gt;Текстовые файлы: %4&lt;BR&gt;Другие файлы: %5&lt;BR&gt;&lt;/H3&gt;</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::AboutDialog</name>

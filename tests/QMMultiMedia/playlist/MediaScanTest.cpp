@@ -187,4 +187,8 @@ TEST_F(MediaScanTest, TheWindowStaysAliveAndCountsWhileItScans)
         counted = counted || label->text().contains(u"<BR>Audio Files: 4000<BR>"_qs);
     }
     EXPECT_TRUE(counted);
+    dialog.setUrls(folder());
+    for (const QLabel *label : dialog.findChildren<QLabel *>()) {
+        EXPECT_FALSE(label->text().contains(u"4000"_qs)) << "counters of the scan before";
+    }
 }

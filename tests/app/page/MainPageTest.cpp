@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSlider>
 #include <QTest>
 #include <QTimer>
@@ -137,6 +138,14 @@ TEST_F(MainPageTest, TheSizeIsKeptUnlessItIsThatOfTheFullScreen)
     m_page->showFullScreen();
     showPage();
     EXPECT_EQ(m_page->size(), QSize(500, 640));
+
+    // A size from a larger screen.
+    const QRect room = m_page->screen()->availableGeometry();
+    App::setSettingsValue(u"Width"_qs, room.width() + 900);
+    App::setSettingsValue(u"Height"_qs, room.height() + 300);
+    showPage();
+    EXPECT_TRUE(
+        waitFor([&] { return room.adjusted(-8, -8, 8, 8).contains(m_page->frameGeometry()); }));
 }
 
 TEST_F(MainPageTest, TheKeysOfTheListPlayAndRemoveTracks)

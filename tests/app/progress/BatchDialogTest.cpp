@@ -50,6 +50,14 @@ struct RunView
     QSignalSpy rejects {&dialog, &BatchDialog::rejected};
 };
 
+/// What the window system does with a window that comes back from being minimised.
+void restore(QWidget *window)
+{
+    QShowEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window, &event);
+}
+
 QString plainSummary(const BatchDialog &dialog)
 {
     QTextEdit text;
@@ -118,7 +126,9 @@ TEST(BatchDialogTest, StatesOfARun)
     EXPECT_EQ(run.bar->value(), 99);
     EXPECT_FALSE(run.close->isVisible());
     QTest::mouseClick(run.pause, Qt::LeftButton);
+    restore(&run.dialog);
     EXPECT_EQ(run.pause->text(), u"Resume"_qs);
+    EXPECT_EQ(run.bar->value(), 99);
     QTest::mouseClick(run.pause, Qt::LeftButton);
     EXPECT_EQ(run.pause->text(), u"Pause"_qs);
     ASSERT_EQ(run.pauses.size(), 2);

@@ -172,6 +172,9 @@ TEST_F(SettingsDialog, OkWritesWhatTheAccessorsReadAndCancelNothing)
     choose(dialog, Bits, 256000);
     withText<QCheckBox>(dialog, u"Copy text files from source"_qs)->setChecked(true);
     dialog.findChildren<FadeWidget *>()[0]->setValue(12);
+    QShowEvent restored; // the window comes back from being minimised
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+    qApp->notify(&dialog, &restored);
     QTest::mouseClick(withText<QPushButton>(dialog, u"Ok"_qs), Qt::LeftButton);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(AppSettingsDialog::bitRate(), 256000);

@@ -198,7 +198,7 @@ void MediaScan::doSearch(const QDir &dir)
         }
     }
     m_lstAncestors.removeLast();
-    if (listing.files.isEmpty() && listing.folders.isEmpty()) {
+    if (!m_bCancelled && listing.files.isEmpty() && listing.folders.isEmpty()) {
         addEmptyFolder(canonicalPath);
     }
 }

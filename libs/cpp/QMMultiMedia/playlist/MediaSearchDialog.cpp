@@ -50,7 +50,7 @@ MediaSearchDialog::MediaSearchDialog(QWidget *parent)
 {
     setObjectName(u"MediaSearchDialog"_qs);
     auto *title = new QLabel(
-        u"<CENTER><H2>Searching for the media files.<br>Please, wait...</H2></CENTER>"_qs, this);
+        tr("<CENTER><H2>Searching for the media files.<br>Please, wait...</H2></CENTER>"), this);
     m_plblFile = new ElidedLabel(ElidedLabel::Kind::Plain, this);
     m_plblCounters = new QLabel(this);
     auto *cancel = new QPushButton(tr("&Cancel"), this);
@@ -69,6 +69,8 @@ void MediaSearchDialog::setUrls(const QList<QUrl> &urls)
 {
     MediaScan::setUrls(urls);
     m_bSkipStart = false;
+    reset(); // the last scan's counters aren't this one's
+    showProgress(QString());
 }
 
 void MediaSearchDialog::slotStart()
@@ -130,8 +132,9 @@ void MediaSearchDialog::showProgress(const QString &file)
 {
     m_plblFile->setText(file);
     m_plblCounters->setText(
-        u"<H3>Video Files: %1<BR>Audio Files: %2<BR>Image Files: %3<BR>Text Files: %4<BR>"
-        "Other Files: %5<BR></H3>"_qs.arg(m_lstVideo.size())
+        tr("<H3>Video Files: %1<BR>Audio Files: %2<BR>Image Files: %3<BR>Text Files: %4<BR>"
+           "Other Files: %5<BR></H3>")
+            .arg(m_lstVideo.size())
             .arg(m_lstAudio.size())
             .arg(m_lstArtwork.size())
             .arg(m_lstText.size())
