@@ -19,6 +19,12 @@ Fade::Fade(QWidget *parent)
     setObjectName(u"FadeWidget"_qs);
     setFrameStyle(QFrame::Box | QFrame::Raised);
     setMidLineWidth(1);
+    // The frame's own shades; those of a light desktop would glare in the dark window.
+    QPalette shades = palette();
+    shades.setColor(QPalette::Light, QColor(140, 140, 140));
+    shades.setColor(QPalette::Mid, QColor(100, 100, 100));
+    shades.setColor(QPalette::Dark, QColor(60, 60, 60));
+    setPalette(shades);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 

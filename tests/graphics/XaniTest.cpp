@@ -160,6 +160,12 @@ TEST_F(XaniTest, HostileFiles)
             EXPECT_TRUE(animation.frame(0).image().isNull());
         }
     }
+    // A name of nothing but signs that begin references.
+    const QByteArray signs(1 << 20, '&');
+    ASSERT_TRUE(MediaMaker::writeFile(m_file,
+        indexed(huge, "<Image name=\"" + signs + ";\" format=\"ppm\"><data start=\"0\"></Image")));
+    ASSERT_TRUE(animation.load(m_file));
+    EXPECT_EQ(animation.frame(0).name().size(), signs.size() + 1);
     EXPECT_FALSE(animation.load(m_dir.path()));
     EXPECT_FALSE(animation.save(u"/nonexistent/a.xani"_qs, -1));
     animation.clearFrames();

@@ -70,15 +70,18 @@ QString referenced(const QString &reference)
 
 QString unescaped(const QString &value)
 {
+    constexpr int longestReference = 12; // with zeros in front
     QString result;
     int at = 0;
     while (at < value.size()) {
         const int begin = value.indexOf(QLatin1Char('&'), at);
-        const int end = begin < 0 ? -1 : value.indexOf(QLatin1Char(';'), begin);
-        if (end < 0) {
+        if (begin < 0) {
             break;
         }
-        const QString character = referenced(value.mid(begin + 1, end - begin - 1));
+        const QStringRef rest = value.midRef(begin, longestReference);
+        const int end = begin + rest.indexOf(QLatin1Char(';'));
+        const QString character
+            = end > begin ? referenced(value.mid(begin + 1, end - begin - 1)) : QString();
         result += value.midRef(at, begin - at);
         result += character.isNull() ? value.mid(begin, 1) : character;
         at = character.isNull() ? begin + 1 : end + 1;

@@ -144,6 +144,13 @@ TEST(CssEditor, appliesAndResetsTheSheet)
     pdoc->setPlainText(u"QLabel { color: red; }"_qs);
     action(editor, u"&Apply"_qs)->trigger();
     EXPECT_EQ(qApp->styleSheet(), u"QLabel { color: red; }"_qs);
+    // By its key as well, which a text would take for itself.
+    pdoc->setPlainText(u"QLabel { color: blue; }"_qs);
+    editor.show();
+    QApplication::setActiveWindow(&editor);
+    pdoc->setFocus();
+    QTest::keyClick(pdoc, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(qApp->styleSheet(), u"QLabel { color: blue; }"_qs);
     EXPECT_TRUE(pdoc->styleSheet().contains(u"#000060"_qs));
     EXPECT_EQ(pdoc->document()->defaultFont().pointSize(), 12);
     EXPECT_TRUE(other.findChild<CssDoc *>()->toPlainText().isEmpty());

@@ -4,6 +4,7 @@
 #include "FileDialog.h"
 #include "Literals.h"
 
+#include <QKeyEvent>
 #include <QPointer>
 #include <QSaveFile>
 #include <QTextStream>
@@ -17,6 +18,17 @@ CssDoc::CssDoc(QWidget *parent)
     setAccessibleName(tr("Style sheet"));
     new CssSyntaxHighlighter(document());
     applyOwnPalette();
+}
+
+/// Leaves Ctrl+A to the menu of the editor, where it applies the sheet; a text would select all.
+bool CssDoc::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride
+        && static_cast<QKeyEvent *>(event)->matches(QKeySequence::SelectAll)) {
+        event->ignore();
+        return true;
+    }
+    return QTextEdit::event(event);
 }
 
 void CssDoc::applyOwnPalette()

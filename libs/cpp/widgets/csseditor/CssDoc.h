@@ -25,6 +25,9 @@ public slots:
     void slotSave();
     void slotSaveAs();
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     QString m_strFileName;
 };
