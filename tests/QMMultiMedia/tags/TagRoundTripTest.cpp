@@ -389,6 +389,24 @@ TEST_F(TagRoundTrip, FieldsAndCoverTravelFromEveryFormat)
     }
 }
 
+TEST_F(TagRoundTrip, ATempoThatIsNoNumberIsNone)
+{
+    for (const auto &[suffix, name] :
+        {std::pair {u"mp3", u"TBPM"}, {u"flac", u"BPM"}, {u"wv", u"BPM"},
+            {u"wma", u"WM/BeatsPerMinute"}, {u"mka", u"BPM"}, {u"mov", u"TBPM"}}) {
+        for (const auto &[text, tempo] : {std::pair {u"fast", -1}, {u"97.5 a minute", 97}}) {
+            const QString file = s_dir->filePath(u"tempo."_qs + QString::fromUtf16(suffix));
+            ASSERT_TRUE(MediaMaker::ffmpeg(
+                {u"-i"_qs, s_wave, u"-movflags"_qs, u"use_metadata_tags"_qs, u"-metadata"_qs,
+                    QString::fromUtf16(name) + u"="_qs + QString::fromUtf16(text), file}));
+            QMMultiMedia::NativeMetaTags tags;
+            tags.readFrom(file);
+            EXPECT_EQ(tags.tempo(), tempo) << file.toStdString();
+            QFile::remove(file);
+        }
+    }
+}
+
 /// The second reader, through the audio-file layer, finds the fields that its dictionary has.
 TEST_F(TagRoundTrip, TheAudioFileLayerSaysTheSame)
 {

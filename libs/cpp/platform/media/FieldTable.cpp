@@ -5,6 +5,7 @@
 
 #include <array>
 #include <QHash>
+#include <QRegularExpression>
 #include <QTextCodec>
 
 namespace FieldTable {
@@ -126,6 +127,12 @@ AVMetadataItem item(Field field, const QVariant &value, const QString &dataType)
     return {AVMetadataKeySpaceiTunes, atomOf(rowOf(field)), commonKey(field), value, dataType};
 }
 
+bool isTempo(const QString &text)
+{
+    static const QRegularExpression number(u"^\\s*\\+?\\d"_qs);
+    return number.match(text).hasMatch();
+}
+
 void Collector::add(const QString &name, const QStringList &texts)
 {
     const std::optional<Match> match = find(m_names, name);
@@ -166,7 +173,8 @@ QList<AVMetadataItem> Collector::items() const
     QList<AVMetadataItem> result;
     for (const auto &[field, texts] : m_texts) {
         QString text = texts.values.join(u"; "_qs);
-        if (field == Field::TrackTotal || field == Field::DiscTotal) {
+        if (field == Field::TrackTotal || field == Field::DiscTotal
+            || (field == Field::Tempo && !isTempo(text))) {
             continue;
         }
         if (field == Field::Track || field == Field::Disc) {

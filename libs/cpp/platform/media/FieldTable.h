@@ -63,6 +63,9 @@ QString commonKeyOfAtom(quint32 atom);
 /// An item of a format without a key space of its own: the field's iTunes key and common key.
 AVMetadataItem item(Field field, const QVariant &value, const QString &dataType);
 
+/// Whether a text is a tempo: it begins with a number. One that doesn't would count as 0.
+bool isTempo(const QString &text);
+
 /// Collects a file's fields by name; makes one item of each.
 class Collector
 {

@@ -256,6 +256,10 @@ void Mp4Reader::readKeyedItem(const QStringList &keys, const Atom &atom)
         // Other writers put plain names there: the field's own key, so that its reader finds it.
         const auto match = FieldTable::find(FieldTable::Names::Dictionary, key);
         if (match) {
+            if (match->field == FieldTable::Field::Tempo
+                && !FieldTable::isTempo(value.value.toString())) {
+                return;
+            }
             const AVMetadataItem item = FieldTable::item(match->field, value.value, value.dataType);
             append(AVMetadataFormatQuickTimeMetadata,
                 {AVMetadataKeySpaceQuickTimeMetadata, item.key(), item.commonKey(), value.value,
