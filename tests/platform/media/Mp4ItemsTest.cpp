@@ -49,6 +49,7 @@ TEST(Mp4Items, ComeInTheFilesOrderWithTheirTypes)
         + item("trkn", "00000000", hex("000000050000000C")) + item("gnre", "00000000", hex("0001"))
         + item("tmpo", "00000015", hex("FFFE")) + item(name, "00000002", hex("0416D83DDE00"))
         + item("covr", "0000000D", "\x89PNG") + item(artist, "00000001", "B")
+        + item(artist, "00000001", "A")
         + atomBytes(atomType("----"),
             atomBytes(atomType("mean"), QByteArray(4, '\0') + "com.apple.iTunes")
                 + atomBytes(atomType("name"), QByteArray(4, '\0') + "ISRC")
@@ -133,7 +134,7 @@ TEST(Mp4Items, AreReadInBoundedTime)
     for (int i = 0; i < 100'000; ++i) {
         names += item("\xA9"
                       "ART",
-            "00000001", QByteArray(100, 'a'));
+            "00000001", QByteArray::number(i).leftJustified(100, 'a'));
     }
     EXPECT_TRUE(read(empty + file(userDataWithItems(names))).isEmpty());
     const auto covers = read(file(userDataWithItems(atomBytes(atomType("covr"), pictures))));
@@ -163,21 +164,24 @@ QByteArray frame(const char *id, const QByteArray &body, const char *size = null
     return QByteArray(id) + (size == nullptr ? plain : hex(size)) + QByteArray(2, '\0') + body;
 }
 
-TEST(Id3Tags, OneItemAFieldAndNumbersOfGenres)
+/// The item of a frame id in a file with this tag.
+AVMetadataItem first(const QByteArray &tag, const QString &id)
 {
     const QTemporaryDir dir;
-    const auto first = [&dir](const QByteArray &tag, const QString &id) {
-        const QString path = dir.filePath(u"a.mp3"_qs);
-        EXPECT_TRUE(MediaMaker::writeFile(path, tag + hex("FFFB9064") + QByteArray(2000, '\0')));
-        const AVAsset asset = AVAsset::assetWithURL(QUrl::fromLocalFile(path));
-        AVMetadataItem found;
-        for (const AVMetadataItem &one : asset.metadataForFormat(AVMetadataFormatID3Metadata)) {
-            if (one.key() == id) {
-                found = one;
-            }
+    const QString path = dir.filePath(u"a.mp3"_qs);
+    EXPECT_TRUE(MediaMaker::writeFile(path, tag + hex("FFFB9064") + QByteArray(2000, '\0')));
+    const AVAsset asset = AVAsset::assetWithURL(QUrl::fromLocalFile(path));
+    AVMetadataItem found;
+    for (const AVMetadataItem &one : asset.metadataForFormat(AVMetadataFormatID3Metadata)) {
+        if (one.key() == id) {
+            found = one;
         }
-        return found;
-    };
+    }
+    return found;
+}
+
+TEST(Id3Tags, OneItemAFieldAndNumbersOfGenres)
+{
     const auto genre = [&](char version, const QByteArray &text) {
         return first(id3(version, frame("TCON", text)), u"TCON"_qs);
     };
@@ -220,6 +224,42 @@ TEST(Id3Tags, OneItemAFieldAndNumbersOfGenres)
                   .stringValue(),
         u"T"_qs);
     EXPECT_NO_FATAL_FAILURE(first(id3(4, frame("TIT2", "\0T"), 0x0FFFFFFF), u"TIT2"_qs));
+}
+
+TEST(Id3Tags, PassOverEmptyEqualAndLinkedValues)
+{
+    const auto text
+        = [](const char *id, const QByteArray &value) { return frame(id, '\3' + value); };
+    const QByteArray note = text("COMM", QByteArray("eng\0", 4));
+    const QByteArray user = text("TXXX", QByteArray("comment\0mine", 12));
+    const QByteArray noUser = text("TXXX", QByteArray("comment\0", 8));
+    const QByteArray picture = frame("APIC", QByteArray("\0image/png\0\0\0", 13) + "picture");
+    const QByteArray link = frame("APIC", QByteArray("\0-->\0\3\0", 7) + "http://example.org");
+    const struct
+    {
+        const char *name;
+        QByteArray tag;
+        const char16_t *id;
+        const char16_t *value;
+    } cases[] = {
+        {"comment", id3(4, note + note + text("COMM", QByteArray("XXX\0real", 8))), u"COMM",
+            u"real"},
+        {"comment of the user's", id3(4, note + user + noUser), u"COMM", u"mine"},
+        {"title", id3(4, text("TIT2", QByteArray(2, '\0')) + text("TIT2", "second")), u"TIT2",
+            u"second"},
+        {"year", id3(4, text("TDRC", "") + text("TYER", "1999")), u"TYER", u"1999"},
+        {"equal artists",
+            id3(4, text("TPE1", QByteArray("X\0X\0Y", 5)) + text("TPE1", "Y") + text("TPE1", "Z")),
+            u"TPE1", u"X; Y; Z"},
+    };
+    for (const auto &one : cases) {
+        EXPECT_EQ(
+            first(one.tag, QString::fromUtf16(one.id)).stringValue(), QString::fromUtf16(one.value))
+            << one.name;
+    }
+    EXPECT_EQ(first(id3(4, picture + link), u"APIC"_qs).dataValue(), "picture");
+    const QByteArray oldLink = "PIC" + hex("000009") + QByteArray("\0-->\3\0abc", 9);
+    EXPECT_TRUE(first(id3(2, oldLink), u"APIC"_qs).dataValue().isEmpty());
 }
 
 TEST(AVAsset, RefusesWhatIsNoRegularFile)

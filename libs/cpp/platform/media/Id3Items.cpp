@@ -5,8 +5,10 @@
 #include "Literals.h"
 
 #include <optional>
+#include <QHash>
 #include <QMap>
 #include <QRegularExpression>
+#include <QSet>
 #include <taglib/attachedpictureframe.h>
 #include <taglib/commentsframe.h>
 #include <taglib/id3v1tag.h>
@@ -31,6 +33,8 @@ public:
 
 private:
     void readFrame(const TagLib::ID3v2::Frame &frame);
+    QStringList newTexts(
+        const QString &id, bool isField, const TagLib::ID3v2::TextIdentificationFrame &frame);
     void readText(const QString &id, const TagLib::ID3v2::TextIdentificationFrame &frame);
     void readUserText(const TagLib::ID3v2::UserTextIdentificationFrame &frame);
     void addUserTexts();
@@ -39,6 +43,7 @@ private:
 
     QList<AVMetadataItem> m_items;
     QMap<QString, QString> m_userTexts; ///< by the id of the frame that they stand for
+    QHash<QString, QSet<QString>> m_knownTexts; ///< by the id of their frames
     int m_dateRank = -1;
     bool m_hasFrontCover = false;
 };
@@ -79,8 +84,9 @@ void Id3Reader::readFrame(const TagLib::ID3v2::Frame &frame)
         readPicture(*picture);
     } else if (const auto *comment = dynamic_cast<const TagLib::ID3v2::CommentsFrame *>(&frame)) {
         // One with a description is a program's own note, not the user's comment.
-        if (comment->description().isEmpty() && indexOf(id) < 0) {
-            add(id, toQString(comment->text()));
+        const QString value = toQString(comment->text());
+        if (comment->description().isEmpty() && !value.isEmpty() && indexOf(id) < 0) {
+            add(id, value);
         }
     } else if (const auto *user
         = dynamic_cast<const TagLib::ID3v2::UserTextIdentificationFrame *>(&frame)) {
@@ -100,7 +106,8 @@ void Id3Reader::readUserText(const TagLib::ID3v2::UserTextIdentificationFrame &f
     const TagLib::StringList fields = frame.fieldList(); // the name, then the texts
     const QString text = fields.size() > 1 ? toQString(fields[1]) : QString();
     const bool isComment = name.compare(u"comment"_qs, Qt::CaseInsensitive) == 0;
-    if (isComment || name.compare(u"grouping"_qs, Qt::CaseInsensitive) == 0) {
+    const bool isGrouping = name.compare(u"grouping"_qs, Qt::CaseInsensitive) == 0;
+    if ((isComment || isGrouping) && !text.isEmpty()) {
         m_userTexts.insert(isComment ? u"COMM"_qs : u"TIT1"_qs, text);
     }
     add(u"TXXX"_qs, name + u": "_qs + text);
@@ -164,13 +171,33 @@ void join(AVMetadataItem &item, Field field, const QStringList &texts)
     }
 }
 
+/// The texts of a frame, for a field only those that no frame of its name had before.
+QStringList Id3Reader::newTexts(
+    const QString &id, bool isField, const TagLib::ID3v2::TextIdentificationFrame &frame)
+{
+    constexpr int maximumTexts = 256;
+    QStringList texts;
+    QSet<QString> &known = m_knownTexts[id];
+    for (const TagLib::String &one : frame.fieldList()) {
+        const QString text = toQString(one);
+        if (!isField) {
+            texts.append(text);
+        } else if (known.size() < maximumTexts && !known.contains(text)) {
+            known.insert(text);
+            texts.append(text);
+        }
+    }
+    return texts;
+}
+
 void Id3Reader::readText(const QString &id, const TagLib::ID3v2::TextIdentificationFrame &frame)
 {
-    QStringList texts;
-    for (const TagLib::String &text : frame.fieldList()) {
-        texts.append(toQString(text));
-    }
     const auto match = FieldTable::find(FieldTable::Names::Id3, id);
+    const QStringList texts = newTexts(id, match.has_value(), frame);
+    // Some writers leave empty frames in front of the filled ones.
+    if (match && texts.join(QString()).isEmpty()) {
+        return;
+    }
     if (const int earlier = match ? indexOf(id) : -1; earlier >= 0) {
         join(m_items[earlier], match->field, texts);
         return;
@@ -197,7 +224,9 @@ void Id3Reader::readPicture(const TagLib::ID3v2::AttachedPictureFrame &frame)
     const QString id = u"APIC"_qs;
     const int earlier = indexOf(id);
     const TagLib::ByteVector picture = frame.picture();
-    if (picture.isEmpty() || (earlier >= 0 && (m_hasFrontCover || !isFrontCover))) {
+    // The address of a picture isn't one. The library makes "image/-->" of the mark in old tags.
+    const bool isAddress = toQString(frame.mimeType()).endsWith(u"-->"_qs);
+    if (isAddress || picture.isEmpty() || (earlier >= 0 && (m_hasFrontCover || !isFrontCover))) {
         return;
     }
     const QByteArray bytes(picture.data(), static_cast<int>(picture.size()));

@@ -5,6 +5,8 @@
 #include "FieldTable.h"
 #include "Literals.h"
 
+#include <QHash>
+#include <QSet>
 #include <QtEndian>
 
 namespace {
@@ -47,6 +49,7 @@ private:
     void readUserText(const Atom &atom);
     void readMobileText(const Atom &atom);
     void readMeta(const Atom &meta);
+    bool isJoined(quint32 type, const QString &text);
     void readITunesItem(const Atom &atom);
     void readFreeForm(const Atom &atom);
     void readKeyedItem(const QStringList &keys, const Atom &atom);
@@ -62,6 +65,7 @@ private:
 
     AtomReader m_atoms;
     QList<MetadataFormat> m_formats;
+    QHash<quint32, QSet<QString>> m_knownTexts; ///< of iTunes items, by the name of their atoms
     int m_itemsLeft = maximumItems;
 };
 
@@ -189,25 +193,34 @@ void Mp4Reader::readMeta(const Atom &meta)
     });
 }
 
+/// A second atom of the same name is another value of the field. False if it is the first.
+bool Mp4Reader::isJoined(quint32 type, const QString &text)
+{
+    QSet<QString> &known = m_knownTexts[type];
+    const bool isNew = !known.contains(text);
+    known.insert(text);
+    if (m_formats.isEmpty() || m_formats.last().name != AVMetadataFormatiTunesMetadata) {
+        return false;
+    }
+    for (AVMetadataItem &earlier : m_formats.last().items) {
+        if (earlier.key() == QVariant(type) && earlier.value().type() == QVariant::String) {
+            if (isNew && earlier.stringValue().size() <= maximumJoined) {
+                earlier.setValue(earlier.stringValue() + u"; "_qs + text);
+            }
+            return true;
+        }
+    }
+    return false;
+}
+
 void Mp4Reader::readITunesItem(const Atom &atom)
 {
     const Value value = valueOf(atom);
     if (!value.value.isValid()) {
         return;
     }
-    if (value.value.type() == QVariant::String && !m_formats.isEmpty()
-        && m_formats.last().name == AVMetadataFormatiTunesMetadata) {
-        // A second atom of the same name is another value of the field.
-        for (AVMetadataItem &earlier : m_formats.last().items) {
-            if (earlier.key() == QVariant(atom.type)
-                && earlier.value().type() == QVariant::String) {
-                if (earlier.stringValue().size() > maximumJoined) {
-                    return;
-                }
-                earlier.setValue(earlier.stringValue() + u"; "_qs + value.value.toString());
-                return;
-            }
-        }
+    if (value.value.type() == QVariant::String && isJoined(atom.type, value.value.toString())) {
+        return;
     }
     append(AVMetadataFormatiTunesMetadata,
         {AVMetadataKeySpaceiTunes, atom.type, FieldTable::commonKeyOfAtom(atom.type), value.value,
@@ -303,6 +316,7 @@ Value Mp4Reader::valueOf(const Atom &item)
         }
         return true;
     });
+    texts.removeDuplicates();
     if (texts.size() > 1) {
         result.value = texts.join(u"; "_qs);
     }
