@@ -46,6 +46,12 @@ void GeneralOutput::createEncoder()
         m_pEncoder.reset(factory->encoder(u"flac"_qs));
     }
     if (m_pEncoder) {
+        // The file is the encoder's from here on: nothing else may write into it at the end.
+        if (m_pWaveOutput->isOpen()) {
+            m_pWaveOutput->close();
+        }
+        connect(m_pEncoder.get(), &QMMultiMedia::EncoderBase::errorsLog, this,
+            &GeneralOutput::errorsLog);
         m_pEncoder->setFile(m_outputFile);
         m_pEncoder->setFormat(m_format);
         m_pEncoder->setCopyMetaTags(AppSettingsDialog::copyMetaTagsActive());

@@ -124,4 +124,10 @@ TEST_F(NativeAudioTest, EncodesToFlacAndConvertsToAFixedWave)
     EXPECT_EQ(MediaMaker::probe(file(u"c.wav"_qs), u"stream=codec_name"_qs), u"pcm_s32le"_qs);
     EXPECT_TRUE(MediaMaker::decode(file(u"c.wav"_qs), u"s32le"_qs)
         == MediaMaker::decode(file(u"a.wav"_qs), u"s32le"_qs));
+
+    // A source is never its own destination, by no name.
+    ASSERT_TRUE(QFile::link(file(u"c.wav"_qs), file(u"link.wav"_qs)));
+    const QByteArray before = MediaMaker::bytesOf(file(u"c.wav"_qs));
+    converter.doIt(file(u"link.wav"_qs), file(u"c.wav"_qs));
+    EXPECT_EQ(MediaMaker::bytesOf(file(u"c.wav"_qs)), before);
 }

@@ -3,7 +3,10 @@
 #include "CFURL.h"
 #include "NativeAudioPlayer.h"
 #include "NativeResult.h"
+#include <filesystem>
+#include <QFile>
 #include <QtDebug>
+#include <system_error>
 #include <vector>
 
 namespace QMMultiMedia {
@@ -24,6 +27,14 @@ AudioStreamBasicDescription fixedFormat()
     format.mChannelsPerFrame = 2;
     format.mBitsPerChannel = 32;
     return format;
+}
+
+/// Also by way of a link.
+bool isSameFile(const QString &a, const QString &b)
+{
+    std::error_code none; // a destination that isn't there yet is another file
+    return std::filesystem::equivalent(
+        QFile::encodeName(a).toStdString(), QFile::encodeName(b).toStdString(), none);
 }
 
 CFURLRef fileUrl(const QString &path)
@@ -56,6 +67,8 @@ void NativeAudioConverter::doIt(const QString &source, const QString &destinatio
     // The destination is only touched once there is something to write into it.
     const bool ready = checkResult(ExtAudioFileOpenURL(fileUrl(source), &record.inputFile),
                            "ExtAudioFileOpenURL failed")
+        && checkResult(isSameFile(source, destination) ? kAudioParamError : noErr,
+            "AudioFileCreateWithURL failed")
         && checkResult(AudioFileCreateWithURL(fileUrl(destination), kAudioFileWAVEType,
                            &record.outputFormat, kAudioFileFlags_EraseFile, &record.outputFile),
             "AudioFileCreateWithURL failed")

@@ -1,6 +1,8 @@
 #include "NativeAudioTools.h"
 
 #include "AVAsset.h"
+#include <algorithm>
+#include <limits>
 
 namespace QMMultiMedia {
 
@@ -12,7 +14,10 @@ bool NativeAudioTools::isPlayable(const QUrl &url)
 int NativeAudioTools::duration(const QUrl &url)
 {
     const AVAsset asset = AVAsset::assetWithURL(url);
-    return asset.isPlayable() ? static_cast<int>(CMTimeGetSeconds(asset.duration())) : -1;
+    constexpr double longest = std::numeric_limits<int>::max(); // a file may state anything
+    return asset.isPlayable()
+        ? static_cast<int>(std::min(CMTimeGetSeconds(asset.duration()), longest))
+        : -1;
 }
 
 }

@@ -26,6 +26,9 @@ public:
     /// How long a service may take to answer, in milliseconds.
     static constexpr int answerLimitMs = 1000;
 
+    /// The same where it may have to be started first and nothing waits for it.
+    static constexpr int startLimitMs = 25000;
+
     /// The two buses; made on first use, kept to the end of the process.
     static Bus *session();
     static Bus *system();

@@ -15,9 +15,6 @@ namespace Desktop {
 
 namespace {
 
-// A file manager may have to be started first; nothing waits for it.
-constexpr int startLimitMs = 25000;
-
 bool openFolderOf(const QString &strPath)
 {
     const QFileInfo info(strPath);
@@ -56,7 +53,7 @@ bool showInFileManager(const QString &strPath)
             }
         }
     };
-    Bus::session()->call(message, answered, startLimitMs);
+    Bus::session()->call(message, answered, Bus::startLimitMs);
     return true;
 }
 

@@ -61,7 +61,8 @@ void Period::askScreenSaver(const QString &strReason, std::size_t path)
     const QDBusMessage message = screenSaverCall(u"Inhibit"_qs)
         << QCoreApplication::applicationName() << strReason;
     Bus::session()->call(
-        message, [self = shared_from_this(), strReason, path](const QDBusMessage &answer) {
+        message,
+        [self = shared_from_this(), strReason, path](const QDBusMessage &answer) {
             if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty()) {
                 self->m_cookie = answer.arguments().first().toUInt();
                 if (self->m_bOver) {
@@ -74,7 +75,8 @@ void Period::askScreenSaver(const QString &strReason, std::size_t path)
             } else {
                 logBusFailure("Keeping the display awake", answer);
             }
-        });
+        },
+        Bus::startLimitMs);
 }
 
 void Period::askLoginManager(const QString &strReason)
@@ -82,13 +84,16 @@ void Period::askLoginManager(const QString &strReason)
     auto message = QDBusMessage::createMethodCall(u"org.freedesktop.login1"_qs,
         u"/org/freedesktop/login1"_qs, u"org.freedesktop.login1.Manager"_qs, u"Inhibit"_qs);
     message << u"idle"_qs << QCoreApplication::applicationName() << strReason << u"block"_qs;
-    Bus::system()->call(message, [self = shared_from_this()](const QDBusMessage &answer) {
-        if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) {
-            logBusFailure("Keeping the machine awake", answer);
-        } else if (!self->m_bOver) {
-            self->m_lock = answer.arguments().first().value<QDBusUnixFileDescriptor>();
-        }
-    });
+    Bus::system()->call(
+        message,
+        [self = shared_from_this()](const QDBusMessage &answer) {
+            if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty()) {
+                logBusFailure("Keeping the machine awake", answer);
+            } else if (!self->m_bOver) {
+                self->m_lock = answer.arguments().first().value<QDBusUnixFileDescriptor>();
+            }
+        },
+        Bus::startLimitMs);
 }
 
 std::shared_ptr<Period> &currentPeriod()

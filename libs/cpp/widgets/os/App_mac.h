@@ -11,7 +11,7 @@ class App_mac : public QObject
 
 public:
     /// The one object; made on first use. It offers the program on the session bus in the
-    /// background, by the name that QMWidgets::App::bundleIdentifier() gives.
+    /// background, by the name that Desktop::applicationId() gives.
     static App_mac *instance();
 
     /// Hands paths over to an instance of this program that is running already; without paths, that
