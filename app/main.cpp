@@ -71,6 +71,7 @@ QStringList pathsFromDesktop()
 void connectEnd(QMWidgets::App *app, MainPage *page, const TerminationSignals *termination)
 {
     const auto end = [page] {
+        App_mac::withdraw();
         page->stopAll();
         QCoreApplication::quit();
     };
@@ -79,6 +80,9 @@ void connectEnd(QMWidgets::App *app, MainPage *page, const TerminationSignals *t
     QObject::connect(
         app, &QGuiApplication::commitDataRequest, page, [page] { page->stopAll(); },
         Qt::DirectConnection);
+    // From the moment on in which the end is settled: a request taken after that would be lost.
+    QObject::connect(app, &QGuiApplication::lastWindowClosed, page, [] { App_mac::withdraw(); });
+    QObject::connect(app, &QCoreApplication::aboutToQuit, page, [] { App_mac::withdraw(); });
     QObject::connect(app, &QCoreApplication::aboutToQuit, QMMultiMedia::AudioPlayer::instance(),
         &QMMultiMedia::AudioPlayer::slotSetAboutToQuit);
 }

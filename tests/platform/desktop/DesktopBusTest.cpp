@@ -216,6 +216,7 @@ TEST(DesktopBus, aServiceThatNeverAnswersIsGivenUp)
 struct SecondStart
 {
     bool bHandedOver = false;
+    bool bHoldsName = false;
     int nMsecs = -1;
     int nExit = -1;
 };
@@ -241,6 +242,7 @@ SecondStart startAgain(const QStringList &lstPaths, const QString &strAddress = 
     const QString strLine = strOutput.mid(strOutput.indexOf(u"HANDOVER "_qs)).section(u'\n', 0, 0);
     result.bHandedOver = strLine.section(u' ', 1, 1) == u"1"_qs;
     result.nMsecs = strLine.section(u' ', 2, 2).toInt();
+    result.bHoldsName = strLine.section(u' ', 3, 3) == u"1"_qs;
     result.nExit = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     return result;
 }
@@ -252,7 +254,13 @@ TEST(SecondProcess, DISABLED_handsItsPathsOver)
     Desktop::ApplicationService service(u"example.velmora.Test"_qs);
     const QStringList lstPaths = qEnvironmentVariable("TEST_PATHS").split(u'|', Qt::SkipEmptyParts);
     const bool bHandedOver = service.handOver(lstPaths, 1000);
-    std::printf("\nHANDOVER %d %d\n", bHandedOver ? 1 : 0, static_cast<int>(timer.elapsed()));
+    const auto nMsecs = static_cast<int>(timer.elapsed());
+    bool bHoldsName = false;
+    Desktop::Bus::session()->whenConnected([&bHoldsName](QDBusConnection &connection) {
+        const QString strOwner = connection.interface()->serviceOwner(u"example.velmora.Test"_qs);
+        bHoldsName = strOwner == connection.baseService();
+    });
+    std::printf("\nHANDOVER %d %d %d\n", bHandedOver ? 1 : 0, nMsecs, bHoldsName ? 1 : 0);
 }
 
 TEST(DesktopBus, aSecondStartHandsItsPathsToTheFirst)
@@ -312,6 +320,37 @@ TEST(DesktopBus, aStartGoesOnWithoutAnAnswer)
     EXPECT_FALSE(stuck.bHandedOver);
     EXPECT_LT(stuck.nMsecs, 2000);
     EXPECT_EQ(stuck.nExit, 0);
+}
+
+TEST(DesktopBus, aStartThatMeetsAnEndBecomesTheFirst)
+{
+    Desktop::ApplicationService service(u"example.velmora.Test"_qs);
+    ASSERT_FALSE(service.handOver({}, 1000));
+    const QSignalSpy opened(&service, &Desktop::ApplicationService::openRequested);
+    auto open = QDBusMessage::createMethodCall(u"example.velmora.Test"_qs,
+        u"/example/velmora/Test"_qs, u"org.freedesktop.Application"_qs, u"Open"_qs);
+    open << QStringList {u"file:///x"_qs} << QVariantMap();
+    // On its way or in the queue while no event loop runs: never taken and then forgotten.
+    QDBusPendingCall pending = bus().connection().asyncCall(open, 5000);
+    service.withdraw();
+    pending.waitForFinished();
+    EXPECT_TRUE(pending.isError());
+    EXPECT_NE(pending.error().type(), QDBusError::NoReply);
+    EXPECT_EQ(opened.size(), 0);
+    const SecondStart second = startAgain({u"/x"_qs});
+    EXPECT_FALSE(second.bHandedOver);
+    EXPECT_TRUE(second.bHoldsName);
+
+    // The first ends between the question for its name and the request.
+    TestService ending(u"example.velmora.Test"_qs, u"/example/velmora/Test"_qs);
+    ending.answer = [](const QDBusMessage &message) {
+        bus().connection().unregisterService(u"example.velmora.Test"_qs);
+        return message.createErrorReply(QDBusError::Failed, u"ending"_qs);
+    };
+    const SecondStart third = startAgain({u"/x"_qs});
+    EXPECT_FALSE(third.bHandedOver);
+    EXPECT_TRUE(third.bHoldsName);
+    EXPECT_EQ(ending.calls.size(), 1);
 }
 
 const auto *const busEnvironment = testing::AddGlobalTestEnvironment(new BusEnvironment);

@@ -2,6 +2,7 @@
 
 #include "Bus.h"
 #include "Literals.h"
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -87,6 +88,11 @@ public:
         if (message.interface() != QLatin1String(applicationInterface)) {
             return false;
         }
+        if (m_pservice->m_bWithdrawn) {
+            connection.send(
+                message.createErrorReply(QDBusError::Failed, u"the program is ending"_qs));
+            return true;
+        }
         const QPointer<ApplicationService> pservice(m_pservice);
         if (message.member() == u"Activate"_qs && message.signature() == u"a{sv}"_qs) {
             connection.send(message.createReply());
@@ -145,37 +151,80 @@ ApplicationService::ApplicationService(const QString &strName, QObject *pobj)
 
 ApplicationService::~ApplicationService()
 {
+    withdraw();
     if (m_claim != nullptr) {
         const QString strName = m_strName;
         Bus::session()->whenConnected([strName](QDBusConnection &connection) {
             connection.unregisterObject(objectPath(strName));
-            connection.send(busCall(u"ReleaseName"_qs) << strName);
         });
     }
 }
 
+void ApplicationService::withdraw()
+{
+    if (m_bWithdrawn) {
+        return;
+    }
+    m_bWithdrawn = true;
+    if (m_claim == nullptr) {
+        return;
+    }
+    Bus::session()->whenConnected([this](QDBusConnection &connection) {
+        connection.asyncCall(busCall(u"ReleaseName"_qs) << m_strName, Bus::answerLimitMs)
+            .waitForFinished();
+    });
+    // What the bus had passed on before is here by now; no event loop may come any more.
+    QCoreApplication::sendPostedEvents(m_object.get());
+}
+
 void ApplicationService::claimName()
 {
+    if (m_bWithdrawn) {
+        return;
+    }
     Bus::session()->whenConnected([this](QDBusConnection &connection) {
         // The object first: a call may follow the name at once.
-        if (!connection.registerVirtualObject(objectPath(m_strName), m_object.get())) {
+        if (connection.registerVirtualObject(objectPath(m_strName), m_object.get())) {
+            requestName(connection);
+        } else {
             emit failed();
-            return;
         }
-        constexpr uint doNotQueue = 4;
-        const QDBusMessage message = busCall(u"RequestName"_qs) << m_strName << doNotQueue;
-        m_claim = std::make_unique<Claim>(connection.asyncCall(message, Bus::answerLimitMs / 2));
     });
+}
+
+void ApplicationService::requestName(QDBusConnection &connection)
+{
+    constexpr uint doNotQueue = 4;
+    const QDBusMessage message = busCall(u"RequestName"_qs) << m_strName << doNotQueue;
+    m_claim = std::make_unique<Claim>(connection.asyncCall(message, Bus::answerLimitMs / 2));
 }
 
 bool ApplicationService::handOver(const QStringList &lstPaths, int limitMs)
 {
     QElapsedTimer timer;
     timer.start();
-    if (!Bus::session()->waitForConnected(limitMs / 2) || m_claim == nullptr
-        || !m_claim->isHeldByAnother()) {
+    if (!Bus::session()->waitForConnected(limitMs / 2) || m_claim == nullptr) {
         return false;
     }
+    // One that is ending has given the name up when it refuses; a third may be there before us.
+    constexpr int mostAttempts = 3;
+    for (int nAttempt = 0; nAttempt < mostAttempts && m_claim->isHeldByAnother(); ++nAttempt) {
+        const int nLeftMs = limitMs - static_cast<int>(timer.elapsed());
+        const QDBusMessage answer = askToOpen(lstPaths, qMax(nLeftMs, 1));
+        // One that is busy has the request in its queue.
+        if (answer.type() == QDBusMessage::ReplyMessage
+            || answer.errorName() == QDBusError::errorString(QDBusError::NoReply)
+            || answer.errorName() == QDBusError::errorString(QDBusError::Timeout)) {
+            return true;
+        }
+        Bus::session()->whenConnected(
+            [this](QDBusConnection &connection) { requestName(connection); });
+    }
+    return false;
+}
+
+QDBusMessage ApplicationService::askToOpen(const QStringList &lstPaths, int limitMs) const
+{
     QStringList lstUris;
     for (const QString &strPath : lstPaths) {
         const QUrl url = QUrl::fromLocalFile(QFileInfo(strPath).absoluteFilePath());
@@ -187,17 +236,13 @@ bool ApplicationService::handOver(const QStringList &lstPaths, int limitMs)
         message << lstUris;
     }
     message << platformData();
-    const int nLeftMs = qMax(limitMs - static_cast<int>(timer.elapsed()), 1);
     QDBusMessage answer;
-    Bus::session()->whenConnected([&answer, &message, nLeftMs](QDBusConnection &connection) {
-        QDBusPendingCall pending = connection.asyncCall(message, nLeftMs);
+    Bus::session()->whenConnected([&answer, &message, limitMs](QDBusConnection &connection) {
+        QDBusPendingCall pending = connection.asyncCall(message, limitMs);
         pending.waitForFinished();
         answer = pending.reply();
     });
-    // One that is busy has the request in its queue; one that has just ended leaves the work to us.
-    return answer.type() == QDBusMessage::ReplyMessage
-        || answer.errorName() == QDBusError::errorString(QDBusError::NoReply)
-        || answer.errorName() == QDBusError::errorString(QDBusError::Timeout);
+    return answer;
 }
 
 } // namespace Desktop

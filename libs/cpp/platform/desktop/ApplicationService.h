@@ -4,6 +4,9 @@
 #include <QObject>
 #include <QStringList>
 
+class QDBusConnection;
+class QDBusMessage;
+
 namespace Desktop {
 
 /// The program on the session bus: the interface org.freedesktop.Application under the program's
@@ -22,6 +25,12 @@ public:
     /// most limitMs, also where the other doesn't answer; the request has then been sent.
     bool handOver(const QStringList &lstPaths, int limitMs);
 
+    /// For the end of the program, which may take a while: gives the name up, so that the next
+    /// start is a first one, and refuses what comes or waits from now on, so that the start that
+    /// asks opens its paths itself. Returns once the bus has given the name back, or after a second
+    /// without an answer.
+    void withdraw();
+
 signals:
     /// The desktop asks the program to come to the front.
     void activated();
@@ -38,8 +47,11 @@ private:
     class Claim;
 
     void claimName();
+    void requestName(QDBusConnection &connection);
+    QDBusMessage askToOpen(const QStringList &lstPaths, int limitMs) const;
 
     const QString m_strName;
+    bool m_bWithdrawn = false;
     std::unique_ptr<Object> m_object;
     std::unique_ptr<Claim> m_claim;
 };

@@ -51,6 +51,11 @@ bool App_mac::handOverToRunningInstance(const QStringList &lstPaths)
     return service()->handOver(lstPaths, limitMs);
 }
 
+void App_mac::withdraw()
+{
+    service()->withdraw();
+}
+
 void App_mac::slotActivated()
 {
     raiseMainWidget();

@@ -19,6 +19,10 @@ public:
     /// if this is the first, or if there is no session bus. Takes at most a second.
     static bool handOverToRunningInstance(const QStringList &lstPaths);
 
+    /// The process is no longer the running instance: it is about to end, and the next start gets a
+    /// window of its own, however long the end takes.
+    static void withdraw();
+
 signals:
     /// The user has asked for the program that is running already.
     void dockClicked();
