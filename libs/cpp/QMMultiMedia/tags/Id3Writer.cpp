@@ -73,6 +73,19 @@ QByteArray strId3v3(const QString &text)
     return '\x03' + text.toUtf8();
 }
 
+/// The body of a picture frame; empty if there is no picture or it can't be encoded.
+QByteArray pictureBody(const QImage &image, const QString &type)
+{
+    const bool isJpeg = type == QLatin1String("JPEG");
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    if (!image.save(&picture, type.toLatin1().constData(), isJpeg ? -1 : 0)) {
+        return {};
+    }
+    // End of the type, kind "other", empty description.
+    return QByteArray(isJpeg ? "image/jpeg" : "image/png") + QByteArray(3, '\0') + picture.data();
+}
+
 }
 
 char *MetaTagsBase::id3v2Frame(
@@ -105,12 +118,17 @@ char *MetaTagsBase::addId3v3Frame(
 
 char *MetaTagsBase::saveId3v2(int *pnSize) const
 {
-    char *tag = resized(nullptr, headerBytes);
-    std::memcpy(tag, "ID3\x04\0\0\0\0\0\0", headerBytes);
+    Block tag(resized(nullptr, headerBytes));
+    std::memcpy(tag.get(), "ID3\x04\0\0\0\0\0\0", headerBytes);
     int size = headerBytes;
+    // Until the longer block is there, the old one has its owner: building it may throw.
+    const auto takeGrown = [&tag](char *grown) {
+        static_cast<void>(tag.release());
+        tag.reset(grown);
+    };
     const auto addBody = [&](const char *id, const QByteArray &body) {
-        tag = addId3v3Frame(
-            tag, id, body.constData(), static_cast<unsigned long>(body.size()), &size);
+        takeGrown(addId3v3Frame(
+            tag.get(), id, body.constData(), static_cast<unsigned long>(body.size()), &size));
     };
     const auto addText = [&](const char *id, const QString &text) {
         if (!text.isEmpty()) {
@@ -118,8 +136,8 @@ char *MetaTagsBase::saveId3v2(int *pnSize) const
         }
     };
     const auto addBinary = [&](const char *id, const QByteArray &body) {
-        tag = addId3v2Frame(
-            tag, id, body.constData(), static_cast<unsigned long>(body.size()), &size);
+        takeGrown(addId3v2Frame(
+            tag.get(), id, body.constData(), static_cast<unsigned long>(body.size()), &size));
     };
 
     addBody("TENC", strId3v3(QCoreApplication::applicationName()));
@@ -143,22 +161,17 @@ char *MetaTagsBase::saveId3v2(int *pnSize) const
     addText("TRCK", m_strTrackNumber);
     addText("TYER", m_strYear);
     addText("TALB", m_strAlbum);
-    if (!m_imgAlbumArtwork.isNull()) {
-        const bool isJpeg = m_strPicType == QLatin1String("JPEG");
-        QBuffer picture;
-        picture.open(QIODevice::WriteOnly);
-        m_imgAlbumArtwork.save(&picture, m_strPicType.toLatin1().constData(), isJpeg ? -1 : 0);
-        // End of the type, kind "other", empty description.
-        addBinary("APIC",
-            QByteArray(isJpeg ? "image/jpeg" : "image/png") + QByteArray(3, '\0') + picture.data());
+    const QByteArray picture = pictureBody(m_imgAlbumArtwork, m_strPicType);
+    if (!picture.isEmpty()) {
+        addBinary("APIC", picture);
     }
 
     const auto body = static_cast<unsigned>(size - headerBytes);
     for (int i = 0; i < 4; ++i) {
-        tag[6 + i] = static_cast<char>(body >> (21 - 7 * i) & 0x7F);
+        tag.get()[6 + i] = static_cast<char>(body >> (21 - 7 * i) & 0x7F);
     }
     *pnSize = size;
-    return tag;
+    return tag.release();
 }
 
 bool MetaTagsBase::writeToMP3(const QString &path) const
