@@ -158,9 +158,15 @@ QVariant NativeMetaTags::pictureValue() const
     if (m_imgAlbumArtwork.cacheKey() == g_cachedImage) {
         return g_nsImageDataCache;
     }
+    constexpr int maximumSide = 65'500; // what the JPEG library writes
+    QImage picture = m_imgAlbumArtwork;
+    if (qMax(picture.width(), picture.height()) > maximumSide) {
+        picture = picture.scaled(
+            maximumSide, maximumSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    if (!m_imgAlbumArtwork.save(&buffer, "JPEG", -1)) {
+    if (!picture.save(&buffer, "JPEG", -1)) {
         return {};
     }
     if (g_nsImageDataCache != buffer.data()) {
@@ -197,7 +203,7 @@ QStringList NativeMetaTags::lostFields() const
             lost.append(QString::fromUtf16(field.name));
         }
     }
-    if (m_pictureUnreadable) {
+    if (m_imgAlbumArtwork.isNull() ? m_pictureUnreadable : !pictureValue().isValid()) {
         lost.append(u"picture"_qs);
     }
     return lost;

@@ -25,7 +25,7 @@ public:
     /// Why it failed, in plain words; empty if it didn't.
     QString error() const;
     /// The names of the fields that the source has and the file can't hold, or whose content
-    /// couldn't be read ("picture"); empty if nothing was lost.
+    /// couldn't be read or encoded ("picture"); empty if nothing was lost.
     QStringList lost() const;
 
     void setState(State state, const QString &error = {});
