@@ -3,6 +3,7 @@
 #include "AudioPlayer.h"
 #include "ConverterResources.h"
 #include "FileInput.h"
+#include "Launcher.h"
 #include "Literals.h"
 #include "MainPage.h"
 #include "MakerHosts.h"
@@ -118,6 +119,7 @@ int main(int argc, char **argv)
     app.checkUpdateOnStartLater();
     initProgramIdentity();
     QMMultiMedia::FileInput::setTempPath(QMWidgets::App::cachesDirectory(false));
+    QGuiApplication::setDesktopFileName(Desktop::desktopEntryName());
     initTranslationResources();
     QMWidgets::TranslationsManager::instance();
     Os::instance();

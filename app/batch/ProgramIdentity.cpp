@@ -19,7 +19,7 @@ QString programName()
 
 void initProgramIdentity()
 {
-    QCoreApplication::setApplicationVersion(u"1.0.2"_qs);
+    QCoreApplication::setApplicationVersion(QStringLiteral(CALDERIN_VERSION));
     QCoreApplication::setOrganizationDomain(u"velmora.example"_qs);
     const QByteArray own = QFile::encodeName(QCoreApplication::applicationDirPath());
     const QByteArray path = qgetenv("PATH");

@@ -75,7 +75,7 @@ TEST(Os, sharesThroughPagesAndMail)
     EXPECT_EQ(browser.item(0, u"status"_qs), strText + u' ' + url.toString());
     EXPECT_EQ(browser.item(1, u"u"_qs), url.toString());
     EXPECT_EQ(browser.item(2, u"url"_qs), url.toString());
-    EXPECT_EQ(browser.item(3, u"body"_qs), strText + u'\n' + url.toString());
+    EXPECT_EQ(browser.item(3, u"body"_qs), strText + u" - "_qs + url.toString());
 }
 
 TEST(Os, bookmarksAreStoredAndTellWhatIsWrong)

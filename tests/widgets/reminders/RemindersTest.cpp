@@ -303,10 +303,8 @@ TEST_F(Reminders, shareThroughTheNetworks)
     EXPECT_EQ(opened(&dlg, u"FaceBookShareButton"_qs), QUrl(App::facebookShareLink()));
     EXPECT_EQ(opened(&dlg, u"VKontakteShareButton"_qs).host(), u"v.example"_qs);
     const QUrl mail = opened(&dlg, u"EmailShareButton"_qs);
+    EXPECT_EQ(mail, QUrl(App::mailToFriend(u"Listen & enjoy"_qs, App::theApp()->sharedPage())));
     EXPECT_EQ(mail.scheme(), u"mailto"_qs);
-    EXPECT_TRUE(QUrlQuery(mail)
-                    .queryItemValue(u"body"_qs, QUrl::FullyDecoded)
-                    .startsWith(u"Listen & enjoy"_qs));
 
     App::setIndependent(true);
     const QUrl share = opened(&dlg, u"FaceBookShareButton"_qs);

@@ -233,6 +233,13 @@ public:
     /// The store identifier ("id" and digits) of a catalogue key; empty if it isn't in there.
     QString appNameToId(const QString &strName) const;
 
+    /// What is shared with friends: the support page; without one the maker's page of the
+    /// application, in a store build its store page.
+    QString sharedPage() const;
+
+    /// The address of a mail to a friend with this text and page.
+    static QString mailToFriend(const QString &strText, const QString &strPage);
+
     /// That of this application.
     QString appId() const;
 

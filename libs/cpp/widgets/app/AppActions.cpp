@@ -70,18 +70,25 @@ void App::slotContactUs()
         + u"&body="_qs);
 }
 
+QString App::sharedPage() const
+{
+    if (!m_strSupportPage.isEmpty()) {
+        return m_strSupportPage;
+    }
+    const QString strPage = MakerHosts::applicationServer() + u"/apps/"_qs + appKey();
+    return isAppStore() ? storeLink(strPage).replace(u"macappstore"_qs, u"https"_qs) : strPage;
+}
+
+QString App::mailToFriend(const QString &strText, const QString &strPage)
+{
+    return u"mailto:?subject="_qs
+        + encoded(u"Check out the cool "_qs + applicationName() + u" app!"_qs) + u"&body="_qs
+        + encoded(strText + u" - "_qs + strPage);
+}
+
 void App::slotTellFriend()
 {
-    QString strPage = m_strSupportPage;
-    if (strPage.isEmpty()) {
-        strPage = MakerHosts::applicationServer() + u"/apps/"_qs + appKey();
-        if (isAppStore()) {
-            strPage = storeLink(strPage).replace(u"macappstore"_qs, u"https"_qs);
-        }
-    }
-    openAddress(u"mailto:?subject="_qs
-        + encoded(u"Check out the cool "_qs + applicationName() + u" app!"_qs) + u"&body="_qs
-        + encoded(shareMessage() + u" - "_qs + strPage));
+    openAddress(mailToFriend(shareMessage(), sharedPage()));
 }
 
 // NOLINTNEXTLINE(readability-make-member-function-const): one of the slots

@@ -113,8 +113,7 @@ void Os::postToLinkedin(const QString &strText, QPixmap, const QUrl &url)
 
 void Os::postToEmail(const QString &strText, QPixmap, const QUrl &url)
 {
-    share(u"mailto:?subject="_qs + encoded(App::applicationName()) + u"&body="_qs
-        + encoded(strText + u'\n') + encoded(url));
+    share(App::mailToFriend(strText, url.toString()));
 }
 // NOLINTEND(performance-unnecessary-value-param)
 

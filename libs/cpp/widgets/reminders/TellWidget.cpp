@@ -14,11 +14,10 @@ namespace QMWidgets {
 
 namespace {
 
-/// What is shared: the application's page.
 QUrl sharedPage()
 {
-    const QString str = App::appSupportPage();
-    return QUrl(str.isEmpty() ? MakerHosts::homePage() : str);
+    const App *papp = App::theApp();
+    return QUrl(papp != nullptr ? papp->sharedPage() : MakerHosts::homePage());
 }
 
 } // namespace

@@ -157,6 +157,11 @@ void App::slotCheckUpdateOnStart()
     if (m_bCheckingUpdate || !AppUpdateDialog::isChecked()) {
         return;
     }
+    if (activeModalWidget() != nullptr) {
+        // Not on top of a search or a run, which would stand still while a server doesn't answer.
+        checkUpdateOnStartLater();
+        return;
+    }
     constexpr int periodDays = 6;
     const QDate date
         = QDate::fromString(settingsValue(lastCheckKey(), QString()).toString(), dateFormat());
