@@ -119,7 +119,7 @@ int main(int argc, char **argv)
     app.checkUpdateOnStartLater();
     initProgramIdentity();
     QMMultiMedia::FileInput::setTempPath(QMWidgets::App::cachesDirectory(false));
-    QGuiApplication::setDesktopFileName(Desktop::desktopEntryName());
+    QGuiApplication::setDesktopFileName(Desktop::applicationId());
     initTranslationResources();
     QMWidgets::TranslationsManager::instance();
     Os::instance();

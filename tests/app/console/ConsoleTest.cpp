@@ -155,7 +155,8 @@ TEST_F(ConsoleTest, RefusesBeforeAnythingIsMade)
     }
     EXPECT_FALSE(QFileInfo::exists(out()));
     EXPECT_EQ(runTool(program(), {u"--help"_qs}).exitCode, 0);
-    EXPECT_EQ(runTool(program(), {u"--version"_qs}).standardOutput, "Calderin M4A " CALDERIN_VERSION "\n");
+    EXPECT_EQ(runTool(program(), {u"--version"_qs}).standardOutput,
+        "Calderin M4A " CALDERIN_VERSION "\n");
 }
 
 TEST_F(ConsoleTest, FinishesTheFileAtHandOnAnInterrupt)
