@@ -407,6 +407,19 @@ TEST_F(TagRoundTrip, ATempoThatIsNoNumberIsNone)
     }
 }
 
+TEST_F(TagRoundTrip, AnEmptyFieldHidesNoOther)
+{
+    const QString file = s_dir->filePath(u"empty.flac"_qs);
+    ASSERT_TRUE(MediaMaker::ffmpeg({u"-i"_qs, s_wave, file}));
+    ASSERT_EQ(MediaMaker::runTool(u"metaflac"_qs,
+                  {u"--set-tag=COMMENT="_qs, u"--set-tag=DESCRIPTION=real"_qs, file})
+                  .exitCode,
+        0);
+    QMMultiMedia::NativeMetaTags tags;
+    tags.readFrom(file);
+    EXPECT_EQ(tags.comments(), u"real"_qs);
+}
+
 /// The second reader, through the audio-file layer, finds the fields that its dictionary has.
 TEST_F(TagRoundTrip, TheAudioFileLayerSaysTheSame)
 {

@@ -3,6 +3,7 @@
 #include "AVMetadataIdentifiers.h"
 #include "Literals.h"
 
+#include <algorithm>
 #include <array>
 #include <QHash>
 #include <QRegularExpression>
@@ -136,8 +137,10 @@ bool isTempo(const QString &text)
 void Collector::add(const QString &name, const QStringList &texts)
 {
     const std::optional<Match> match = find(m_names, name);
-    if (!match || match->field == Field::Artwork || texts.isEmpty()) {
-        return;
+    const bool isEmpty = std::all_of(
+        texts.begin(), texts.end(), [](const QString &text) { return text.isEmpty(); });
+    if (!match || match->field == Field::Artwork || isEmpty) {
+        return; // an empty value hides no other name's
     }
     const auto place = m_texts.try_emplace(match->field, Texts {match->rank, {}}).first;
     QStringList &values = place->second.values;
@@ -150,7 +153,7 @@ void Collector::add(const QString &name, const QStringList &texts)
     }
     constexpr int maximumValues = 256;
     for (const QString &text : texts) {
-        if (values.size() < maximumValues && !values.contains(text)) {
+        if (values.size() < maximumValues && !text.isEmpty() && !values.contains(text)) {
             values.append(text);
         }
     }
