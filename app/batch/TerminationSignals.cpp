@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr std::array<int, 3> numbers {SIGINT, SIGTERM, SIGHUP};
+
 std::array<int, 2> ends {-1, -1};
 
 void handle(int signalNumber)
@@ -37,15 +39,23 @@ TerminationSignals::TerminationSignals(QObject *parent)
     action.sa_handler = handle;
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        sigaction(number, &action, nullptr);
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        struct sigaction before
+        {
+        };
+        // Who starts the program with a signal ignored (nohup) wants it to go on.
+        if (sigaction(numbers[i], nullptr, &before) == 0 && before.sa_handler != SIG_IGN) {
+            m_installed[i] = sigaction(numbers[i], &action, nullptr) == 0;
+        }
     }
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-        std::signal(number, SIG_DFL);
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (m_installed[i]) {
+            std::signal(numbers[i], SIG_DFL);
+        }
     }
     for (int &end : ends) {
         if (end >= 0) {

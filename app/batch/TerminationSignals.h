@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <QObject>
 
 class QSocketNotifier;
@@ -7,7 +8,8 @@ class QSocketNotifier;
 /// Turns SIGINT, SIGTERM and SIGHUP into a signal of the event loop.
 ///
 /// One object a process, made on the user-interface thread after the application object. The second
-/// SIGINT or SIGTERM acts as the system has it: the process ends.
+/// SIGINT or SIGTERM acts as the system has it: the process ends. A signal that
+/// is ignored from outside stays ignored.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
@@ -27,4 +29,5 @@ private:
     Q_DISABLE_COPY(TerminationSignals)
 
     QSocketNotifier *m_pnotifier = nullptr;
+    std::array<bool, 3> m_installed {}; ///< for SIGINT, SIGTERM and SIGHUP
 };
