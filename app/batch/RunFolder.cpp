@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <QDateTime>
 #include <QFile>
+#include <QLocale>
 #include <QThread>
 #include <sys/file.h>
 #include <unistd.h>
@@ -19,7 +20,9 @@ constexpr unsigned long pollMs = 50;
 RunFolder::RunFolder(const QString &destination)
 {
     for (;;) {
-        m_path = destination + QDateTime::currentDateTime().toString(u"yyyy-MM-dd_hh-mm-ss"_qs)
+        // The system's language may have digits of its own.
+        m_path = destination
+            + QLocale::c().toString(QDateTime::currentDateTime(), u"yyyy-MM-dd_hh-mm-ss"_qs)
             + u"/"_qs;
         QMWidgets::App::ensureDirExists(m_path);
         if (hold()) {

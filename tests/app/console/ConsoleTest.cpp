@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <sys/stat.h>
 
@@ -164,6 +165,7 @@ TEST_F(ConsoleTest, FinishesTheFileAtHandOnAnInterrupt)
     for (int i = 0; i < 40; ++i) {
         ASSERT_TRUE(QFile::copy(tone(u"a.wav"_qs, 20), in(QString::asprintf("f%02d.wav", i))));
     }
+    std::signal(SIGINT, SIG_DFL); // a script's background job has it ignored, and so its children
     QProcess process;
     process.start(program(), {u"--destination"_qs, out(), in(QString())});
     // The first finished file shows that the run is in the middle.
@@ -201,6 +203,21 @@ TEST_F(ConsoleTest, LeavesNoDamagedFileWhenItIsKilled)
             EXPECT_TRUE(isWhole(path, 60)) << file.toStdString();
         }
     }
+}
+
+TEST_F(ConsoleTest, NamesARunTheSameWayInEveryLanguage)
+{
+    const QByteArray before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "ar_EG.UTF-8"); // it has digits of its own
+    const ToolResult result = convert({tone(u"a.wav"_qs)});
+    if (before.isEmpty()) {
+        qunsetenv("LC_ALL");
+    } else {
+        qputenv("LC_ALL", before);
+    }
+    const QRegularExpression form(u"/\\d{4}-\\d\\d-\\d\\d_\\d\\d-\\d\\d-\\d\\d/$"_qs);
+    EXPECT_TRUE(form.match(lastLine(result.standardOutput)).hasMatch())
+        << result.standardOutput.constData();
 }
 
 TEST_F(ConsoleTest, ReplacesNonsenseInTheStoreAndGoesOn)

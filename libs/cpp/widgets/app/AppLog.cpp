@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <QDateTime>
 #include <QFile>
+#include <QLocale>
 #include <QtGlobal>
 
 namespace QMWidgets {
@@ -46,7 +47,7 @@ void appendToLog(const QByteArray &line)
 void terminalOutputToFile(
     QtMsgType type, const QMessageLogContext &context, const QString &strMessage)
 {
-    appendToLog(QDateTime::currentDateTime().toString(u"dd.MM.yy-hh:mm"_qs).toUtf8()
+    appendToLog(QLocale::c().toString(QDateTime::currentDateTime(), u"dd.MM.yy-hh:mm"_qs).toUtf8()
         + levelWord(type) + strMessage.toUtf8() + ", " + context.file + '\n');
     if (type == QtFatalMsg) {
         std::abort();

@@ -6,6 +6,7 @@
 #include "Os_Mac.h"
 #include "PlatformVersion.h"
 #include "RateAppStoreDialog.h"
+#include <QLocale>
 #include <QPointer>
 
 using QMWidgets::App;
@@ -33,7 +34,7 @@ int stored(const char *key)
 
 void storeDate(const QDate &date)
 {
-    store(lastDateKey, date.toString(App::dateFormat()));
+    store(lastDateKey, QLocale::c().toString(date, App::dateFormat()));
 }
 
 QString encoded(const QString &str)

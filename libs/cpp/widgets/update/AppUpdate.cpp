@@ -6,6 +6,7 @@
 #include "Literals.h"
 #include "MakerHosts.h"
 #include "PlatformVersion.h"
+#include <QLocale>
 #include <QPixmap>
 #include <QPointer>
 #include <QRegularExpression>
@@ -40,7 +41,7 @@ bool suitsSystem(const QString &strValue)
 
 QString todayText()
 {
-    return App::today().toString(App::dateFormat());
+    return QLocale::c().toString(App::today(), App::dateFormat());
 }
 
 }
