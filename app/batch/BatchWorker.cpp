@@ -12,6 +12,7 @@
 #include "SignalScan.h"
 #include "ToolsCommon.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <QCoreApplication>
@@ -68,6 +69,12 @@ void BatchWorker::pause(bool on)
     m_pause = on;
 }
 
+void BatchWorker::setDroppedUrls(const QList<QUrl> &urls)
+{
+    m_droppedUrls = urls;
+    m_dropped.clear();
+}
+
 void BatchWorker::slotAppendError(const QString &line)
 {
     m_errors += line;
@@ -82,7 +89,7 @@ void BatchWorker::slotDoWork()
     const QString destination
         = QMWidgets::App::settingsValue(u"DestinationPath"_qs, QMWidgets::App::musicDirectory(true))
               .toString();
-    const int total = m_inputFiles.size() + copyStages().size();
+    const int total = numSteps();
     const RunFolder folder(destination);
     const QString runFolder = folder.path();
 
@@ -135,6 +142,11 @@ QVector<BatchWorker::CopyStage> BatchWorker::copyStages() const
     return stages;
 }
 
+int BatchWorker::numSteps() const
+{
+    return m_inputFiles.size() + copyStages().size();
+}
+
 void BatchWorker::copySideFiles(const QString &runFolder, int total)
 {
     for (const CopyStage &stage : copyStages()) {
@@ -167,25 +179,35 @@ QString BatchWorker::folderFor(const QString &file, const QString &runFolder)
     return folder;
 }
 
-QString BatchWorker::newPathForForlderStructure(const QString &file, const QString &destination)
+/// Looked at once a run: thousands may have been dropped, and each file asks for all of them.
+const QVector<BatchWorker::DroppedUrl> &BatchWorker::dropped()
 {
     using MTools::ToolsCommon;
-    const QString sourceFolder = ToolsCommon::normalizePath(QFileInfo(file).absolutePath());
-    QString result;
-    for (const QUrl &url : qAsConst(m_droppedUrls)) {
-        const QString dropped = ToolsCommon::normalizePath(url.toLocalFile());
-        QString folder = sourceFolder;
-        if (QFileInfo(dropped).isFile()) {
-            folder.remove(ToolsCommon::normalizePath(QFileInfo(dropped).absolutePath()));
-            result = destination + folder + u"/"_qs;
-        } else if (folder.startsWith(dropped)) {
-            const QStringList parts = dropped.split(u'/');
-            folder.remove(dropped);
-            result = destination + (parts.isEmpty() ? QString() : parts.last() + u"/"_qs) + folder
-                + u"/"_qs;
+    if (m_dropped.isEmpty()) {
+        m_dropped.reserve(m_droppedUrls.size());
+        for (const QUrl &url : qAsConst(m_droppedUrls)) {
+            const QString path = ToolsCommon::normalizePath(url.toLocalFile());
+            const QFileInfo info(path);
+            const bool isFile = info.isFile();
+            m_dropped.append(
+                {path, isFile ? ToolsCommon::normalizePath(info.absolutePath()) : path, isFile});
         }
     }
-    return result;
+    return m_dropped;
+}
+
+QString BatchWorker::newPathForForlderStructure(const QString &file, const QString &destination)
+{
+    QString folder = MTools::ToolsCommon::normalizePath(QFileInfo(file).absolutePath());
+    const QVector<DroppedUrl> &urls = dropped();
+    const auto last = std::find_if(urls.crbegin(), urls.crend(),
+        [&folder](const DroppedUrl &url) { return url.isFile || folder.startsWith(url.path); });
+    if (last == urls.crend()) {
+        return {};
+    }
+    folder.remove(last->folder);
+    const QString name = last->isFile ? QString() : last->path.section(u'/', -1) + u"/"_qs;
+    return destination + name + folder + u"/"_qs;
 }
 
 void BatchWorker::copyFiles(const QVector<QString> &files, const QString &destination)

@@ -36,7 +36,7 @@ public:
     void setTextFiles(const QVector<QString> &files) { m_textFiles = files; }
     void setUnsuportedFiles(const QVector<QString> &files) { m_unsuportedFiles = files; }
     /// Files and folders as the user gave them; the folder structure is rebuilt from them.
-    void setDroppedUrls(const QList<QUrl> &urls) { m_droppedUrls = urls; }
+    void setDroppedUrls(const QList<QUrl> &urls);
 
     /// Whether the next source is decoded while one is encoded (the default). For measurements: it
     /// changes nothing but the time that a run takes.
@@ -65,6 +65,10 @@ public:
     /// trace.
     void copyFiles(const QVector<QString> &files, const QString &destination);
 
+    /// What the run's percentages are made of: its sources, and each kind of files that is copied
+    /// along.
+    int numSteps() const;
+
     /// One entry per source that was taken up, in order. Only after finished().
     const QVector<RunReceipt> &receipts() const { return m_receipts; }
 
@@ -85,9 +89,18 @@ private:
 
     struct CopyStage;
 
+    /// A dropped URL as the folder structure needs it; its paths are normalised.
+    struct DroppedUrl
+    {
+        QString path;
+        QString folder; ///< a file's own folder; a folder itself
+        bool isFile = false;
+    };
+
     void convertInputFiles(const QString &runFolder, int total);
     void copySideFiles(const QString &runFolder, int total);
     QVector<CopyStage> copyStages() const;
+    const QVector<DroppedUrl> &dropped();
     QString folderFor(const QString &file, const QString &runFolder);
     void emitTotalProgress(int total);
     bool hasConvertibleLength(const QString &input);
@@ -107,6 +120,7 @@ private:
     QVector<QString> m_imageFiles;
     QVector<QString> m_unsuportedFiles;
     QList<QUrl> m_droppedUrls;
+    QVector<DroppedUrl> m_dropped; ///< m_droppedUrls, once they were looked at; else empty
     QMMultiMedia::NativeAudioDecoder *m_pDecoder = nullptr;
     qint64 m_numSamples = 0;
     float m_maxPeak = 0.0f;

@@ -208,8 +208,8 @@ void ConsoleRun::refuseUnreadable(const QMMultiMedia::MediaScan &scan)
 void ConsoleRun::convert()
 {
     say(u"Converting "_qs + number(m_files.size(), "file", "files"));
-    m_pprogress = std::make_unique<ConsoleProgress>(m_files.size());
     BatchWorker *worker = m_thread.worker();
+    m_pprogress = std::make_unique<ConsoleProgress>(worker->numSteps());
     QEventLoop loop;
     connect(&m_thread, &QThread::started, worker, &BatchWorker::slotDoWork);
     connect(worker, &BatchWorker::errorsLog, this, &ConsoleRun::slotErrors);
