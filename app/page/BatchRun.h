@@ -19,7 +19,7 @@ public:
     explicit BatchRun(QObject *parent);
     ~BatchRun() override;
 
-    /// Null when the run is over.
+    /// The run's own thread and worker; never null, and there until the run is deleted.
     BatchThread *thread() const;
     BatchWorker *worker() const;
 
