@@ -37,9 +37,11 @@ TerminationSignals::TerminationSignals(QObject *parent)
     {
     };
     action.sa_handler = handle;
-    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < numbers.size(); ++i) {
+        // A terminal that goes may say so more than once; of the others the second one ends it all.
+        const bool isOnce = numbers[i] != SIGHUP;
+        action.sa_flags = SA_RESTART | (isOnce ? static_cast<int>(SA_RESETHAND) : 0);
         struct sigaction before
         {
         };

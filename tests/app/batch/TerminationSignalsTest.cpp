@@ -33,4 +33,12 @@ TEST(TerminationSignals, LeavesAloneWhatIsIgnoredFromOutside)
     EXPECT_TRUE(isIgnored(SIGHUP));
     EXPECT_FALSE(isIgnored(SIGTERM));
     std::signal(SIGHUP, SIG_DFL);
+
+    // A terminal may hang up twice.
+    const TerminationSignals termination(nullptr);
+    QSignalSpy requested(&termination, &TerminationSignals::requested);
+    for (int count = 1; count <= 2; ++count) {
+        ASSERT_EQ(std::raise(SIGHUP), 0);
+        ASSERT_TRUE(MediaMaker::waitFor([&] { return requested.size() == count; }));
+    }
 }

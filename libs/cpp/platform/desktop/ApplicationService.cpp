@@ -46,21 +46,6 @@ QStringList localPaths(const QStringList &lstUris)
     return lstPaths;
 }
 
-// What lets the other process come to the front of this one's desktop.
-QVariantMap platformData()
-{
-    QVariantMap data;
-    const QString strToken = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
-    const QString strStartup = qEnvironmentVariable("DESKTOP_STARTUP_ID");
-    if (!strToken.isEmpty()) {
-        data.insert(u"activation-token"_qs, strToken);
-    }
-    if (!strStartup.isEmpty()) {
-        data.insert(u"desktop-startup-id"_qs, strStartup);
-    }
-    return data;
-}
-
 }
 
 /// The object on the bus that takes the calls.
@@ -235,7 +220,7 @@ QDBusMessage ApplicationService::askToOpen(const QStringList &lstPaths, int limi
     if (!lstUris.isEmpty()) {
         message << lstUris;
     }
-    message << platformData();
+    message << QVariantMap(); // no data of the platform
     QDBusMessage answer;
     Bus::session()->whenConnected([&answer, &message, limitMs](QDBusConnection &connection) {
         QDBusPendingCall pending = connection.asyncCall(message, limitMs);
