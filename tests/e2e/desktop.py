@@ -138,6 +138,7 @@ class Desktop:
                                        client_type=display.intern_atom("_NET_CLOSE_WINDOW"))
         display.screen().root.send_event(
             message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        display.sync()
         display.close()
 
     def close_until(self, window, condition, what):

@@ -1,6 +1,7 @@
 #include "App.h"
 
 #include "Literals.h"
+#include "ModalFocus.h"
 #include "PlatformVersion.h"
 #include <QDir>
 #include <QFileOpenEvent>
@@ -62,6 +63,7 @@ App::App(int &argc, char **argv, const QString &strOrganization, const QString &
         reinterpret_cast<void (*)()>(pfunction)();
     }
     initAppsIds();
+    keepFocusInModalDialogs(this);
     if (isSigned()) {
         disableTerminalOuput();
     }
