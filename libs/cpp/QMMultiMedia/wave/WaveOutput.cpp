@@ -163,11 +163,12 @@ bool WaveOutput::write(char *bytes, int n)
     }
     const auto size = static_cast<std::size_t>(n);
     m_fileInfo.setDataSize(m_fileInfo.dataSize() + size);
-    if (m_pFile == nullptr) {
+    if (m_pFile == nullptr || m_bFailed) {
         return false;
     }
     if (std::fwrite(bytes, 1, size, m_pFile) != size) {
         std::fputs("WaveOutput: error writing\n", stderr);
+        m_bFailed = true;
         return false;
     }
     return true;
@@ -227,12 +228,15 @@ bool WaveOutput::close()
     if (m_pFile == nullptr) {
         return false;
     }
-    bool written = true;
-    if (m_fileInfo.dataSize() % 2 != 0) {
-        written = FileUtil::writeB(0, m_pFile) == 1;
-    }
     finishPeaks();
-    written = m_ebuEnvelope->save(m_pFile, m_peakVector, m_nEnvelopeFormat) && written;
+    // Behind samples that were lost nothing may follow: a reader would take it for them.
+    bool written = !m_bFailed && std::fflush(m_pFile) == 0;
+    if (written) {
+        if (m_fileInfo.dataSize() % 2 != 0) {
+            written = FileUtil::writeB(0, m_pFile) == 1;
+        }
+        written = m_ebuEnvelope->save(m_pFile, m_peakVector, m_nEnvelopeFormat) && written;
+    }
     written = patchSizes() && written;
     const bool closed = std::fclose(m_pFile) == 0;
     m_pFile = nullptr;

@@ -23,8 +23,8 @@ public:
     ~WaveOutput() override;
 
     using BaseOutput::write;
-    /// Writes n bytes as they are; false if not all were written, or the file isn't open. The size
-    /// of the data grows by n in any case.
+    /// Writes n bytes as they are; false if not all were written, now or before, or the file isn't
+    /// open. The size of the data grows by n in any case.
     bool write(char *bytes, int n) override;
     /// Converts n samples, all channels counted, to the file's width and writes them; gives 0.
     int write(float *samples, int n) override;
@@ -68,6 +68,7 @@ private:
     std::vector<int> m_ints;
     std::vector<char> m_bytes;
     std::vector<char> m_streamBuffer;
+    bool m_bFailed = false; ///< samples were lost, as on a disk that was full for a moment
 };
 
 }
