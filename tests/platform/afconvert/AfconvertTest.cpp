@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -219,17 +220,21 @@ TEST_F(Afconvert, LeavesNothingWhenItIsBrokenOff)
     }
     // Where files without a name can't be had.
     const std::string destination = path(u"out.m4a"_qs).toStdString();
-    const pid_t child = ::fork();
-    if (child == 0) {
-        OutputFile file(destination, OutputFile::Kind::Named);
-        file.write(0, "text", 4);
-        ::raise(SIGTERM);
-        ::_exit(1);
+    for (const int number : {SIGTERM, SIGQUIT}) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const rlimit noCore {0, 0};
+            ::setrlimit(RLIMIT_CORE, &noCore);
+            OutputFile file(destination, OutputFile::Kind::Named);
+            file.write(0, "text", 4);
+            ::raise(number);
+            ::_exit(1);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status));
+        EXPECT_EQ(names(), (QStringList {u"in.wav"_qs, u"long.wav"_qs}));
     }
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status));
-    EXPECT_EQ(names(), (QStringList {u"in.wav"_qs, u"long.wav"_qs}));
 }
 
 TEST_F(Afconvert, LeavesNothingOnAFullDisk)

@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr std::array<int, 4> endingSignals {SIGHUP, SIGINT, SIGTERM, SIGXCPU};
+constexpr std::array<int, 9> endingSignals {
+    SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU, SIGALRM, SIGPIPE, SIGUSR1, SIGUSR2};
 
 // What a signal has to remove: set before the handler is there.
 int signalFolder = -1;
@@ -46,6 +47,28 @@ void setSignals(void (*handler)(int))
         ::sigaction(number, &action, nullptr);
     }
 }
+
+/// Keeps those signals waiting as long as it lasts.
+class SignalsHeld
+{
+public:
+    SignalsHeld()
+    {
+        sigset_t held;
+        sigemptyset(&held);
+        for (const int number : endingSignals) {
+            sigaddset(&held, number);
+        }
+        ::pthread_sigmask(SIG_BLOCK, &held, &m_before);
+    }
+
+    ~SignalsHeld() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    SignalsHeld(const SignalsHeld &) = delete;
+    SignalsHeld &operator=(const SignalsHeld &) = delete;
+
+private:
+    sigset_t m_before {};
+};
 
 std::string pathOfDescriptor(int descriptor)
 {
@@ -106,6 +129,7 @@ void OutputFile::fail() const
 
 void OutputFile::createNamed()
 {
+    const SignalsHeld held; // from before the file is there until it would be removed
     // The name is short whatever the final one is: that may be as long as a name can be.
     for (unsigned attempt = 0; m_descriptor < 0 && attempt < 1000; ++attempt) {
         std::array<char, 64> name {};
