@@ -286,7 +286,7 @@
     <message>
         <source>min         max</source>
         <extracomment>Below the two ends of the dial; keep the distance between the words.</extracomment>
-        <translation>最小         最大</translation>
+        <translation>最小               最大</translation>
     </message>
 </context>
 <context>
