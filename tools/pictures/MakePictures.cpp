@@ -224,6 +224,8 @@ int main(int argc, char **argv)
         return 2;
     }
     QMWidgets::App::setSettingsValue(u"Language"_qs, arguments.at(2));
+    // A user's folder instead of that of this run.
+    QMWidgets::App::setSettingsValue(u"DestinationPath"_qs, u"/home/anna/Music/Calderin M4A/"_qs);
     initProgramIdentity();
     initTranslationResources();
     QMWidgets::TranslationsManager::instance();
