@@ -138,7 +138,8 @@ void TracksListDelegate::paintTexts(QPainter *painter, const QStyleOptionViewIte
     painter->setFont(fontOf(option, QFont::Bold, 15));
     // The popup button covers what lies to the right of its left edge.
     const int width = row.width() - 36 - area.left();
-    painter->drawText(area, static_cast<int>(Qt::AlignLeft | Qt::AlignAbsolute) | Qt::TextSingleLine,
+    painter->drawText(area,
+        static_cast<int>(Qt::AlignLeft | Qt::AlignAbsolute) | Qt::TextSingleLine,
         painter->fontMetrics().elidedText(name, Qt::ElideMiddle, width));
 
     painter->setPen(Qt::lightGray);

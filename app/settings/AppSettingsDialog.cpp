@@ -22,6 +22,7 @@
 #include <QLCDNumber>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QTabWidget>
 #include <QTimer>
@@ -164,6 +165,12 @@ void AppSettingsDialog::createCheckBoxes()
 void AppSettingsDialog::createLayout()
 {
     auto *tabs = new QTabWidget(this);
+    // From wherever the focus is: a combo box would keep these keys.
+    for (const QKeySequence::StandardKey key :
+        {QKeySequence::NextChild, QKeySequence::PreviousChild}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, tabs,
+            [tabs] { tabs->setCurrentIndex(1 - tabs->currentIndex()); });
+    }
     tabs->addTab(new PageArea(generalTab(), tabs), tr("General"));
     tabs->addTab(new PageArea(effectsTab(), tabs), tr("Operations"));
 

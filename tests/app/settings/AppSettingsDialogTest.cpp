@@ -226,6 +226,11 @@ TEST_F(SettingsDialog, PagesScrollInsteadOfSqueezingAndTabReachesOkLast)
     }
     EXPECT_LE(page->widget()->width(), page->viewport()->width());
     EXPECT_EQ(dialog.focusWidget(), box(dialog, Rate));
+    const auto *tabs = dialog.findChild<QTabWidget *>();
+    for (const int index : {1, 0}) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), index);
+    }
     QWidget *last = withText<QCheckBox>(dialog, u"Open the destination folder"_qs);
     while (!(last = last->nextInFocusChain())->isVisible()
         || (last->focusPolicy() & Qt::TabFocus) == 0) { }
