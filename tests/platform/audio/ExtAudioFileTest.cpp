@@ -277,6 +277,31 @@ TEST_F(ExtAudioFileTest, RefusesWhatIsNoSoundByCode)
     EXPECT_EQ(ExtAudioFileDispose(chirpFile), noErr);
 }
 
+TEST_F(ExtAudioFileTest, TakesNoTextThatLeadsElsewhereOrNeverEnds)
+{
+    makeChirp();
+    const struct
+    {
+        const char *name;
+        const char *text;
+    } cases[] = {{"list.mp3", "ffconcat version 1.0\nfile 'chirp.wav'\n"},
+        {"stream.mp3",
+            "v=0\no=- 0 0 IN IP4 127.0.0.1\ns=a\nc=IN IP4 127.0.0.1\nt=0 0\n"
+            "m=audio 45678 RTP/AVP 0\n"},
+        {"script.mp3", "allon: 100+5/50\nNOW allon\n"},
+        {"parts.ts", "#EXTM3U\n#EXT-X-TARGETDURATION:2\n#EXTINF:1,\nchirp.wav\n"},
+        {"parts.avi",
+            "<MPD profiles=\"urn:mpeg:dash:profile:isoff-on-demand:2011\"><Period><BaseURL>"
+            "chirp.wav</BaseURL></Period></MPD>"}};
+    for (const auto &test : cases) {
+        const QString path = file(QLatin1String(test.name));
+        ASSERT_TRUE(MediaMaker::writeFile(path, test.text));
+        ExtAudioFileRef opened = nullptr;
+        EXPECT_EQ(ExtAudioFileOpenURL(QUrl::fromLocalFile(path), &opened), statusCode("typ?"))
+            << test.name;
+    }
+}
+
 TEST_F(ExtAudioFileTest, GivesNoNoiseForEncryptedSound)
 {
     makeChirp();

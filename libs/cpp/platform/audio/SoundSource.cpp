@@ -1,10 +1,10 @@
 #include "SoundSource.h"
 
+#include "ContainerLimits.h"
 #include "StreamFacts.h"
 #include <cstdio>
 #include <cstring>
 #include <limits>
-#include <mutex>
 #include <string>
 
 extern "C" {
@@ -41,11 +41,9 @@ int64_t seekBytes(void *opaque, int64_t offset, int whence)
     return whence == SEEK_SET && file->seek(offset) ? offset : AVERROR(EIO);
 }
 
-/// A media file may name others, on the network as well: none is opened.
-int refuseToOpen(AVFormatContext * /*context*/, AVIOContext ** /*io*/, const char * /*url*/,
-    int /*flags*/, AVDictionary ** /*options*/)
+int isCancelled(void *opaque)
 {
-    return AVERROR(EPERM);
+    return static_cast<InputFile *>(opaque)->isCancelled() ? 1 : 0;
 }
 
 /// All decoders of sound, so that probing a file never decodes its pictures.
@@ -110,8 +108,6 @@ std::unique_ptr<SoundSource> SoundSource::open(const QUrl &url, OSStatus *status
 
 std::unique_ptr<SoundSource> SoundSource::open(std::unique_ptr<InputFile> file, OSStatus *status)
 {
-    static std::once_flag quiet;
-    std::call_once(quiet, [] { av_log_set_level(AV_LOG_QUIET); });
     std::unique_ptr<SoundSource> source(new SoundSource);
     source->m_file = std::move(file);
     source->m_packet.reset(av_packet_alloc());
@@ -133,15 +129,16 @@ OSStatus SoundSource::openContainer()
     auto *buffer = static_cast<unsigned char *>(av_malloc(IoBufferBytes));
     AVIOContext *io
         = avio_alloc_context(buffer, IoBufferBytes, 0, m_file.get(), readBytes, nullptr, seekBytes);
-    const AVInputFormat *format = nullptr;
     AVFormatContext *container = avformat_alloc_context();
-    const int probed
-        = av_probe_input_buffer2(io, &format, m_file->path().constData(), nullptr, 0, 0);
     container->pb = io;
     container->flags |= AVFMT_FLAG_CUSTOM_IO;
-    container->io_open = refuseToOpen;
+    container->interrupt_callback = {isCancelled, m_file.get()};
     container->codec_whitelist = av_strdup(soundDecoders().c_str());
-    if (probed < 0 || m_file->size() == 0) {
+    ContainerLimits::apply(container);
+    const AVInputFormat *format = nullptr;
+    const int probed
+        = av_probe_input_buffer2(io, &format, m_file->path().constData(), nullptr, 0, 0);
+    if (probed < 0 || m_file->size() == 0 || !ContainerLimits::allow(format)) {
         m_container.reset(container);
         return kAudioFileUnsupportedFileTypeError;
     }

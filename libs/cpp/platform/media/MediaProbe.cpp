@@ -1,6 +1,7 @@
 #include "MediaProbe.h"
 
 #include "AVMetadataIdentifiers.h"
+#include "ContainerLimits.h"
 #include "FieldTable.h"
 #include "FileKind.h"
 #include "Literals.h"
@@ -30,10 +31,6 @@ public:
 
 private:
     static int isOverdue(void *self);
-    static int refuse(AVFormatContext *, AVIOContext **, const char *, int, AVDictionary **)
-    {
-        return AVERROR(EACCES);
-    }
 
     AVFormatContext *m_context = nullptr;
     AVIOContext *m_bytes = nullptr;
@@ -56,8 +53,7 @@ Input::Input(const QString &path)
     }
     m_context->pb = m_bytes;
     m_context->interrupt_callback = {&Input::isOverdue, this};
-    // A list of other files or addresses is no sound: nothing but this file is ever opened.
-    m_context->io_open = &Input::refuse;
+    ContainerLimits::apply(m_context);
     if (avformat_open_input(&m_context, url.constData(), nullptr, nullptr) < 0) {
         m_context = nullptr;
     }
