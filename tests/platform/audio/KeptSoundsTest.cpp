@@ -4,6 +4,8 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace SoundTestTools;
 
@@ -40,6 +42,26 @@ protected:
     static bool keeps(qint64 bytes) { return KeptRoom::instance().bytes() >= bytes; }
 
     QTemporaryDir m_folder;
+};
+
+/// As long as it lives the process gets this much more memory at most.
+class MemoryLimit
+{
+public:
+    explicit MemoryLimit(rlim_t more)
+    {
+        getrlimit(RLIMIT_AS, &m_before);
+        const qulonglong pages
+            = MediaMaker::bytesOf(u"/proc/self/statm"_qs).split(' ').first().toULongLong();
+        rlimit now = m_before;
+        now.rlim_cur = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + more;
+        setrlimit(RLIMIT_AS, &now);
+    }
+    ~MemoryLimit() { setrlimit(RLIMIT_AS, &m_before); }
+    Q_DISABLE_COPY(MemoryLimit)
+
+private:
+    rlimit m_before {};
 };
 
 }
@@ -186,4 +208,41 @@ TEST_F(KeptSoundsTest, ReadsAheadOnAHintAndDropsItAtOnce)
     ExtAudioFileHint(QUrl::fromLocalFile(file(u"missing"_qs)), format);
     ExtAudioFileHint(QUrl::fromLocalFile(u"/dev/zero"_qs), format);
     ExtAudioFileDropHints();
+}
+
+TEST_F(KeptSoundsTest, TellsThatMemoryEndedBeforeTheSound)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer needs memory of its own";
+#endif
+    constexpr int frames = 18'000'000; // 72 MB
+    const QByteArray raw = makeWave(u"a.wav"_qs, frames, 1);
+    const QUrl url = QUrl::fromLocalFile(file(u"a.wav"_qs));
+    const AudioStreamBasicDescription format = clientFormat(44100, 16);
+    std::vector<char> buffer(400000);
+    for (const bool ahead : {false, true}) {
+        ExtAudioFileRef opened = nullptr;
+        ASSERT_EQ(ExtAudioFileOpenURL(url, &opened), noErr);
+        ASSERT_EQ(ExtAudioFileSetProperty(opened, fourCC("cfmt"), sizeof(format), &format), noErr);
+        OSStatus status = noErr;
+        {
+            const MemoryLimit limit(40'000'000);
+            if (ahead) {
+                ExtAudioFileHint(url, format);
+            }
+            UInt32 count = 1;
+            while (status == noErr && count > 0) {
+                AudioBufferList list;
+                list.mNumberBuffers = 1;
+                list.mBuffers[0] = {2, static_cast<UInt32>(buffer.size()), buffer.data()};
+                count = 100000;
+                status = ExtAudioFileRead(opened, &count, &list);
+            }
+        }
+        EXPECT_EQ(status, -108) << ahead;
+        ExtAudioFileDispose(opened);
+        ExtAudioFileDropHints();
+        EXPECT_TRUE(MediaMaker::waitFor([] { return KeptRoom::instance().bytes() == 0; }));
+    }
+    EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
 }

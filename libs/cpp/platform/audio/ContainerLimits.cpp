@@ -1,6 +1,7 @@
 #include "ContainerLimits.h"
 
 #include <cerrno>
+#include <cstddef>
 #include <mutex>
 #include <string>
 
@@ -24,6 +25,10 @@ constexpr const char *refusedFormats
 
 /// Stands in the place of a protocol's name; there is none with it.
 constexpr const char *noProtocol = "none";
+
+/// Nothing is allocated in one piece beyond this: far above the tables of a recording of days, and
+/// below what the lengths in a damaged or hostile file may ask for.
+constexpr std::size_t maxAllocation = std::size_t(256) * 1024 * 1024;
 
 const std::string &allowedFormats()
 {
@@ -57,8 +62,11 @@ bool ContainerLimits::allow(const AVInputFormat *format)
 
 void ContainerLimits::apply(AVFormatContext *container)
 {
-    static std::once_flag quiet;
-    std::call_once(quiet, [] { av_log_set_level(AV_LOG_QUIET); });
+    static std::once_flag once;
+    std::call_once(once, [] {
+        av_log_set_level(AV_LOG_QUIET);
+        av_max_alloc(maxAllocation);
+    });
     container->io_open = refuseToOpen;
     // Containers within containers get these two lists, but not the function.
     container->protocol_whitelist = av_strdup(noProtocol);

@@ -11,7 +11,7 @@ namespace ContainerLimits {
 bool allow(const AVInputFormat *format);
 
 /// To be called before a container is opened: whatever its demuxer, and those inside of it, try to
-/// open fails, and no format that isn't allowed is taken.
+/// open fails, no format that isn't allowed is taken, and one allocation has a limit.
 void apply(AVFormatContext *container);
 
 }

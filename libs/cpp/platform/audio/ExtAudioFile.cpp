@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr OSStatus NoThreadError = -108;
 constexpr double HighestClientRate = 768000.0;
 
 std::optional<ClientSample> clientSample(const AudioStreamBasicDescription &format)
@@ -103,12 +102,15 @@ public:
         }
         *ioFrames = 0;
         buffer.mDataByteSize = 0;
-        const OSStatus status = m_reading ? noErr : startReading();
+        OSStatus status = m_reading ? noErr : startReading();
         if (status == noErr && wanted > 0) {
             const int bytes = m_reading->read(
                 static_cast<char *>(buffer.mData), static_cast<int>(wanted * frameBytes));
             buffer.mDataByteSize = static_cast<UInt32>(bytes);
             *ioFrames = buffer.mDataByteSize / frameBytes;
+            if (*ioFrames < wanted) {
+                status = m_reading->failure();
+            }
         }
         return status;
     }
@@ -132,7 +134,7 @@ private:
             try {
                 m_reading = SoundReading::start(std::move(m_source), *m_format);
             } catch (const std::system_error &) {
-                m_failure = NoThreadError;
+                m_failure = kAudioMemoryFullError;
                 return m_failure;
             }
             KeptSounds::instance().add(m_reading, m_url);

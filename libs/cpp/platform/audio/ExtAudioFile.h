@@ -45,7 +45,9 @@ constexpr ExtAudioFilePropertyID kExtAudioFileProperty_AudioConverter = fourCC("
 /// Reads up to *ioFrames frames of the client format.
 ///
 /// Blocks until all are there or the data ends; then *ioFrames is what came, and 0 with the result
-/// 0 from there on. mDataByteSize bounds the read and becomes what was filled.
+/// 0 from there on. mDataByteSize bounds the read and becomes what was filled. Where reading can't
+/// go on before the end the result is -108 (no memory) or 'chk?' (one piece of the file holds so
+/// much that it would take all of it).
 [[nodiscard]] OSStatus ExtAudioFileRead(
     ExtAudioFileRef file, UInt32 *ioFrames, AudioBufferList *ioData);
 

@@ -71,7 +71,10 @@ void KeptRoom::putBy(Block block)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_blocks + static_cast<qint64>(m_spare.size()) < mostBlocks) {
-        m_spare.push_back(std::move(block));
+        try {
+            m_spare.push_back(std::move(block));
+        } catch (const std::bad_alloc &) { // then it is freed
+        }
     }
 }
 

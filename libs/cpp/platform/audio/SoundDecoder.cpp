@@ -16,7 +16,7 @@ int SoundDecoder::read(char *out, int bytes)
     m_room = bytes;
     do {
         takePending();
-    } while (m_room > 0 && decodeMore());
+    } while (m_room > 0 && shapeMore());
     return bytes - m_room;
 }
 
@@ -47,35 +47,39 @@ bool SoundDecoder::seek(double seconds)
     return true;
 }
 
-/// Decodes until there is something; false at the end.
-bool SoundDecoder::decodeMore()
+/// Makes the next block of samples; false at the end.
+bool SoundDecoder::shapeMore()
 {
-    m_pending.clear();
-    m_taken = 0;
-    const int room = m_room;
-    const auto sink = [this](const SoundBlock &block) { append(block); };
-    while (m_pending.empty() && m_room == room && !m_atEnd) {
+    for (;;) {
+        const SoundBlock block = m_shaper.take();
+        if (block.frames > 0) {
+            give(block);
+            return true;
+        }
+        if (m_atEnd) {
+            return false;
+        }
         const SoundPiece piece = m_source->next();
         if (piece.frame != nullptr) {
-            m_shaper.process(piece, sink);
+            m_shaper.put(piece);
         } else {
-            m_shaper.flush(sink);
+            m_shaper.finish();
             m_atEnd = true;
         }
     }
-    return !m_pending.empty() || m_room < room;
 }
 
 /// Packs a block straight into the reader's memory if all of it has room there.
-void SoundDecoder::append(const SoundBlock &block)
+void SoundDecoder::give(const SoundBlock &block)
 {
-    const int bytes = block.frames * bytesPerFrame(m_format.sample);
-    if (m_pending.empty() && bytes <= m_room) {
+    const std::size_t bytes = static_cast<std::size_t>(block.frames)
+        * static_cast<std::size_t>(bytesPerFrame(m_format.sample));
+    if (bytes <= static_cast<std::size_t>(m_room)) {
         packBlock(block, m_format.sample, m_out);
-        advance(bytes);
+        advance(static_cast<int>(bytes));
         return;
     }
-    const std::size_t offset = m_pending.size();
-    m_pending.resize(offset + static_cast<std::size_t>(bytes));
-    packBlock(block, m_format.sample, m_pending.data() + offset);
+    m_pending.resize(bytes);
+    m_taken = 0;
+    packBlock(block, m_format.sample, m_pending.data());
 }

@@ -36,8 +36,8 @@ public:
 private:
     void takePending();
     void advance(int bytes);
-    bool decodeMore();
-    void append(const SoundBlock &block);
+    bool shapeMore();
+    void give(const SoundBlock &block);
 
     std::unique_ptr<SoundSource> m_source;
     ClientFormat m_format;

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cstring>
 #include <ctime>
+#include <exception>
 #include <limits>
 #include <sys/resource.h>
-#include <system_error>
 
 namespace {
 
@@ -66,8 +66,9 @@ std::shared_ptr<SoundReading> SoundReading::start(
     reading->m_hasKey = true;
     reading->m_hasReader = true;
     reading->m_keeps = reading->mayFit(*source);
-    reading->m_thread = std::thread(
-        [reading, opened = std::move(source)]() mutable { reading->run(std::move(opened)); });
+    reading->m_thread = std::thread([reading, opened = std::move(source)]() mutable {
+        reading->runSafely([&] { reading->run(std::move(opened)); });
+    });
     return reading;
 }
 
@@ -75,7 +76,7 @@ std::shared_ptr<SoundReading> SoundReading::startHint(const QUrl &url, const Cli
 {
     std::shared_ptr<SoundReading> reading(new SoundReading(format));
     reading->m_isHint = true;
-    std::thread([reading, url] { reading->runHint(url); }).detach();
+    std::thread([reading, url] { reading->runSafely([&] { reading->runHint(url); }); }).detach();
     return reading;
 }
 
@@ -115,6 +116,12 @@ bool SoundReading::beginPass(bool last)
     m_dropsRead = last;
     KeptRoom::instance().wake();
     return true;
+}
+
+OSStatus SoundReading::failure() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_failure;
 }
 
 void SoundReading::stopKeeping()
@@ -191,6 +198,17 @@ void SoundReading::dropRead()
     m_changed.notify_all();
 }
 
+/// The whole work of a thread: what is thrown on the way ends the reading, not the program.
+template <typename Work> void SoundReading::runSafely(Work work)
+{
+    try {
+        work();
+    } catch (const std::exception &) { // no memory before there was a decoder
+        fail(kAudioMemoryFullError);
+        end(false);
+    }
+}
+
 /// Decodes beside the encoders, and the tail with what they leave of the cores: they don't end at
 /// the same time, and the core of the first one is to have some work then.
 void SoundReading::runHint(const QUrl &url)
@@ -209,7 +227,7 @@ void SoundReading::runHint(const QUrl &url)
         try {
             // A thread can't go back to its priority: this one takes over.
             std::thread(decodeTail).join();
-        } catch (const std::system_error &) { // then it does it all
+        } catch (const std::exception &) { // then it does it all
         }
     }
     if (progress == Progress::Interrupted) {
@@ -266,14 +284,18 @@ std::unique_ptr<SoundDecoder> SoundReading::attach(std::unique_ptr<SoundSource> 
 
 void SoundReading::finish(SoundDecoder &decoder, Progress progress)
 {
-    const bool complete = progress == Progress::Complete && decoder.source().file().isUnchanged();
+    end(progress == Progress::Complete && decoder.source().file().isUnchanged());
+}
+
+void SoundReading::end(bool complete)
+{
     bool isLast = false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_decoder = nullptr;
         m_ended = true;
         m_whole = complete && m_keeps && !m_cancelled;
-        if (m_cancelled && !m_hasReader) {
+        if (!m_hasReader && (m_cancelled || m_failure != noErr)) {
             m_chunks.clear();
             KeptRoom::instance().release(m_reserved);
             m_reserved = 0;
@@ -286,8 +308,25 @@ void SoundReading::finish(SoundDecoder &decoder, Progress progress)
     }
 }
 
+/// Before end(): whoever sees the end has to see this as well.
+void SoundReading::fail(OSStatus status)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_failure = status;
+}
+
 /// Decodes on, from where the last one ended.
 SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, Until until)
+{
+    try {
+        return decodeChunks(decoder, until);
+    } catch (const std::exception &) { // no memory; the decoder lives on until finish()
+        fail(kAudioMemoryFullError);
+        return Progress::Failed;
+    }
+}
+
+SoundReading::Progress SoundReading::decodeChunks(SoundDecoder &decoder, Until until)
 {
     const Pace pace(expectedBytes(decoder.source()));
     double done = 0;
@@ -306,7 +345,12 @@ SoundReading::Progress SoundReading::decode(SoundDecoder &decoder, Until until)
             return Progress::Failed;
         }
         if (last) {
-            return decoder.source().file().isCancelled() ? Progress::Failed : Progress::Complete;
+            const OSStatus failure = decoder.source().failure();
+            if (failure != noErr) {
+                fail(failure);
+            }
+            const bool isEnd = failure == noErr && !decoder.source().file().isCancelled();
+            return isEnd ? Progress::Complete : Progress::Failed;
         }
     }
 }

@@ -48,6 +48,9 @@ public:
     /// Fills up to `bytes` bytes; waits for them unless the data ends or the reading is cancelled.
     int read(char *out, int bytes);
 
+    /// An error code if the data ended before its time.
+    OSStatus failure() const;
+
     /// What was read is let go at once from here on.
     void stopKeeping();
 
@@ -82,18 +85,22 @@ private:
         Failed ///< or cancelled, or there was no room
     };
 
+    template <typename Work> void runSafely(Work work);
     void run(std::unique_ptr<SoundSource> source);
     void runHint(const QUrl &url);
     std::unique_ptr<SoundDecoder> openHint(const QUrl &url);
     std::unique_ptr<SoundDecoder> attach(std::unique_ptr<SoundSource> source);
     Progress decode(SoundDecoder &decoder, Until until);
+    Progress decodeChunks(SoundDecoder &decoder, Until until);
+    void end(bool complete);
+    void fail(OSStatus status);
     void finish(SoundDecoder &decoder, Progress progress);
     bool mayFit(const SoundSource &source) const;
     double expectedBytes(const SoundSource &source) const;
     bool push(Chunk chunk);
     bool makeRoom();
     void dropRead();
-    bool isUselessNow() const { return m_cancelled || (m_ended && !m_whole); }
+    bool isUselessNow() const { return m_cancelled || m_failure != noErr || (m_ended && !m_whole); }
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -112,5 +119,6 @@ private:
     bool m_ended = false;
     bool m_whole = false;
     bool m_cancelled = false;
+    OSStatus m_failure = noErr;
     std::thread m_thread;
 };

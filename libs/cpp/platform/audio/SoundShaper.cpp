@@ -17,6 +17,15 @@ constexpr double MinusThreeDecibels = 0.70710678118654752440;
 constexpr int LowestRate = 100;
 constexpr int HighestRate = 6200000;
 
+/// What is converted at once where the rate stays.
+constexpr int BlockFrames = 8192;
+
+bool isUsable(const AVFrame &frame)
+{
+    return frame.ch_layout.nb_channels >= 1 && frame.sample_rate >= LowestRate
+        && frame.sample_rate <= HighestRate;
+}
+
 bool isWhole(AVSampleFormat format)
 {
     const AVSampleFormat packed = av_get_packed_sample_fmt(format);
@@ -117,62 +126,69 @@ SoundShaper::SoundShaper(int rate, bool precise)
 {
 }
 
-void SoundShaper::process(const SoundPiece &piece, const Sink &sink)
+void SoundShaper::reset()
 {
-    const AVFrame &frame = *piece.frame;
-    const auto format = static_cast<AVSampleFormat>(frame.format);
+    m_piece = {};
+    m_finishing = false;
+    m_resampler.reset();
+}
+
+SoundBlock SoundShaper::take()
+{
+    SoundBlock block;
+    while (block.frames == 0) {
+        if (mustDrain()) {
+            block = m_resampler->flush();
+            if (block.frames == 0) {
+                m_resampler.reset();
+            }
+        } else if (m_piece.begin < m_piece.end) {
+            block = takeFromPiece();
+        } else {
+            break;
+        }
+    }
+    return block;
+}
+
+/// Whether what is inside of the resampler has to come out first.
+bool SoundShaper::mustDrain() const
+{
+    if (!m_resampler) {
+        return false;
+    }
+    if (m_piece.begin >= m_piece.end) {
+        return m_finishing;
+    }
+    const AVFrame &frame = *m_piece.frame;
+    return isUsable(frame)
+        && (m_resampler->inputRate() != frame.sample_rate || frame.sample_rate == m_rate
+            || m_resampler->channels() != std::min(frame.ch_layout.nb_channels, 2));
+}
+
+SoundBlock SoundShaper::takeFromPiece()
+{
+    const AVFrame &frame = *m_piece.frame;
     const int channels = frame.ch_layout.nb_channels;
     const bool sameRate = frame.sample_rate == m_rate;
-    if (channels < 1 || frame.sample_rate < LowestRate || frame.sample_rate > HighestRate) {
-        return;
-    }
     const SampleKind fraction = m_precise ? SampleKind::Double : SampleKind::Float;
     const SampleKind kind
-        = sameRate && channels <= 2 && isWhole(format) ? SampleKind::Int32 : fraction;
-    if (sameRate) {
-        flush(sink);
-        const SoundBlock block = convertPiece(piece, kind);
-        if (block.frames > 0) {
-            sink(block);
-        }
-        return;
+        = sameRate && channels <= 2 && isWhole(static_cast<AVSampleFormat>(frame.format))
+        ? SampleKind::Int32
+        : fraction;
+    if (!sameRate && !m_resampler && isUsable(frame)) {
+        m_resampler = Resampler::create(frame.sample_rate, m_rate, std::min(channels, 2), kind);
     }
-    if (!prepareResampler(frame.sample_rate, channels > 1 ? 2 : 1, kind, sink)) {
-        return;
+    if (!isUsable(frame) || (!sameRate && !m_resampler)) {
+        m_piece = {};
+        return {};
     }
-    SoundPiece part = piece;
-    while (part.begin < piece.end) {
-        part.end = std::min(piece.end, part.begin + m_resampler->inputLimit());
-        const SoundBlock block = m_resampler->convert(convertPiece(part, kind));
-        if (block.frames > 0) {
-            sink(block);
-        }
-        part.begin = part.end;
-    }
-}
-
-void SoundShaper::flush(const Sink &sink)
-{
-    while (m_resampler) {
-        const SoundBlock block = m_resampler->flush();
-        if (block.frames > 0) {
-            sink(block);
-        } else {
-            m_resampler.reset();
-        }
-    }
-}
-
-bool SoundShaper::prepareResampler(int inputRate, int channels, SampleKind kind, const Sink &sink)
-{
-    if (m_resampler
-        && (m_resampler->inputRate() != inputRate || m_resampler->channels() != channels)) {
-        flush(sink);
-    }
-    if (!m_resampler) {
-        m_resampler = Resampler::create(inputRate, m_rate, channels, kind);
-    }
-    return m_resampler != nullptr;
+    SoundPiece part = m_piece;
+    const int limit = sameRate ? BlockFrames : m_resampler->inputLimit();
+    part.end = part.begin + std::min(limit, part.end - part.begin);
+    m_piece.begin = part.end;
+    const SoundBlock block = convertPiece(part, kind);
+    return sameRate ? block : m_resampler->convert(block);
 }
 
 SoundBlock SoundShaper::convertPiece(const SoundPiece &piece, SampleKind kind)

@@ -3,7 +3,6 @@
 #include "Resampler.h"
 #include "SoundBlock.h"
 #include "SoundSource.h"
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,19 +15,22 @@
 class SoundShaper
 {
 public:
-    using Sink = std::function<void(const SoundBlock &)>;
-
     /// Computes in double if precise, else in float.
     SoundShaper(int rate, bool precise);
 
-    /// Gives what comes of a piece to the sink; its blocks are valid during the call.
-    void process(const SoundPiece &piece, const Sink &sink);
+    /// Takes the next piece, once take() has nothing left of the last one; its memory stays in use
+    /// until then.
+    void put(const SoundPiece &piece) { m_piece = piece; }
 
-    /// Gives what is left inside to the sink; afterwards a new stream can begin.
-    void flush(const Sink &sink);
+    /// No piece follows: take() also gives what is left inside.
+    void finish() { m_finishing = true; }
+
+    /// The next block of what was put; without frames if there is none. A few thousand frames at
+    /// most, whatever the size of the piece. Valid until the next call.
+    SoundBlock take();
 
     /// Forgets what is inside.
-    void reset() { m_resampler.reset(); }
+    void reset();
 
 private:
     struct Mix
@@ -41,10 +43,13 @@ private:
     SoundBlock convertPiece(const SoundPiece &piece, SampleKind kind);
     template <typename T> SoundBlock convertPlanes(const SoundPiece &piece, SampleKind kind);
     void prepareMix(const AVFrame &frame);
-    bool prepareResampler(int inputRate, int channels, SampleKind kind, const Sink &sink);
+    bool mustDrain() const;
+    SoundBlock takeFromPiece();
 
     int m_rate;
     bool m_precise;
+    SoundPiece m_piece; ///< what is left of it
+    bool m_finishing = false;
     Mix m_mix;
     std::unique_ptr<Resampler> m_resampler;
     std::vector<double> m_planes[2]; ///< room for samples of any kind

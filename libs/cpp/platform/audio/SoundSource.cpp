@@ -17,6 +17,8 @@ namespace {
 
 constexpr int IoBufferBytes = 65536;
 constexpr int MaxFailuresInARow = 1000;
+/// A recording comes in pieces of a second or less; one that came whole would be in memory whole.
+constexpr int MaxPacketBytes = 64 * 1024 * 1024;
 /// Samples that a decoder needs before its output is right after a seek.
 constexpr double PrerollSeconds = 0.1;
 constexpr qint64 MaxPaddingFrames = 16384;
@@ -300,7 +302,9 @@ bool SoundSource::receiveFrame()
         m_failuresInARow = 0;
         return m_frame->nb_samples > 0 && m_frame->sample_rate > 0;
     }
-    if (received == AVERROR_EOF || (m_drained && ++m_failuresInARow > MaxFailuresInARow)) {
+    if (received == AVERROR(ENOMEM)) {
+        fail(kAudioMemoryFullError);
+    } else if (received == AVERROR_EOF || (m_drained && ++m_failuresInARow > MaxFailuresInARow)) {
         m_atEnd = true;
     } else if (!m_drained) {
         feedDecoder();
@@ -316,8 +320,18 @@ void SoundSource::feedDecoder()
         return;
     }
     noticeNewLink();
-    avcodec_send_packet(m_decoder.get(), m_packet.get()); // a damaged packet is left out
+    const int sent = avcodec_send_packet(m_decoder.get(), m_packet.get());
     av_packet_unref(m_packet.get());
+    if (sent == AVERROR(ENOMEM)) { // another error: a damaged packet is left out
+        fail(kAudioMemoryFullError);
+    }
+}
+
+/// Ends the data before its time.
+void SoundSource::fail(OSStatus status)
+{
+    m_failure = status;
+    m_atEnd = true;
 }
 
 /// Another link of a chain begins: nothing overlaps with its first block.
@@ -347,10 +361,19 @@ bool SoundSource::readPacket()
         if (read == AVERROR_EOF) {
             return false;
         }
+        if (read == AVERROR(ENOMEM)) {
+            fail(kAudioMemoryFullError);
+            return false;
+        }
         if (read < 0) {
             ++failures;
         } else if (m_packet->stream_index == m_stream->index
             && !StreamFacts::isEncrypted(*m_packet)) {
+            if (m_packet->size > MaxPacketBytes) {
+                av_packet_unref(m_packet.get());
+                fail(kAudioFileInvalidChunkError);
+                return false;
+            }
             return true;
         } else {
             av_packet_unref(m_packet.get());
@@ -450,6 +473,7 @@ bool SoundSource::seek(double seconds)
     avcodec_flush_buffers(m_decoder.get());
     m_drained = false;
     m_atEnd = false;
+    m_failure = noErr;
     m_failuresInARow = 0;
     m_seeking = true;
     m_seekTo = target;

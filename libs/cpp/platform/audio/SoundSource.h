@@ -53,6 +53,9 @@ public:
     /// again.
     SoundPiece next();
 
+    /// An error code if the data hasn't really come to its end there.
+    OSStatus failure() const { return m_failure; }
+
     /// Goes on at this time (seconds from the first frame that is heard), to the frame; false if
     /// the file can't be sought.
     bool seek(double seconds);
@@ -79,6 +82,7 @@ private:
     void feedDecoder();
     void noticeNewLink();
     bool readPacket();
+    void fail(OSStatus status);
     SoundPiece trim();
     SoundPiece trimToEdit(SoundPiece piece);
     /// The counts are the side data of skipped samples, little-endian.
@@ -97,6 +101,7 @@ private:
     bool m_trimsItself = false; ///< the decoder leaves skipping to us
     bool m_drained = false;
     bool m_atEnd = false;
+    OSStatus m_failure = noErr;
     int m_failuresInARow = 0;
     qint64 m_firstPacketTime = UnknownTime;
     /// A Vorbis stream of one page can't tell where it begins; its first packet, which gives no
