@@ -1,10 +1,12 @@
 #include "KeptRoom.h"
 #include "SoundTestTools.h"
 
+#include <array>
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <sys/resource.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace SoundTestTools;
@@ -245,4 +247,21 @@ TEST_F(KeptSoundsTest, TellsThatMemoryEndedBeforeTheSound)
         EXPECT_TRUE(MediaMaker::waitFor([] { return KeptRoom::instance().bytes() == 0; }));
     }
     EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+}
+
+TEST_F(KeptSoundsTest, GoesFromThreadToThread)
+{
+    const QByteArray raw = makeWave(u"a.wav"_qs, 2000, 1);
+    const auto work = [&] {
+        for (int i = 0; i < 1000; ++i) {
+            EXPECT_TRUE(readAll(file(u"a.wav"_qs), 44100, 16).bytes == raw);
+        }
+    };
+    std::array<std::thread, 3> threads;
+    for (std::thread &thread : threads) {
+        thread = std::thread(work);
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
 }

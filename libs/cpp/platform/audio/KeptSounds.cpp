@@ -33,22 +33,19 @@ void KeptSounds::add(const std::shared_ptr<SoundReading> &reading, const QUrl &u
 
 void KeptSounds::detach(const std::shared_ptr<SoundReading> &reading)
 {
-    bool kept = false;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-            [&](const Entry &entry) { return entry.reading == reading; });
-        if (found != m_entries.end() && found->passesLeft > 0 && reading->isWhole()) {
-            found->inUse = false;
-            kept = true;
-        } else if (found != m_entries.end()) {
-            m_entries.erase(found);
-        }
-    }
-    if (!kept) {
+    if (!reading->isWhole()) {
         reading->cancel();
     }
+    // While it still is in use: the next user would join the same thread.
     reading->join();
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+        [&](const Entry &entry) { return entry.reading == reading; });
+    if (found != m_entries.end() && found->passesLeft > 0 && reading->isWhole()) {
+        found->inUse = false;
+    } else if (found != m_entries.end()) {
+        m_entries.erase(found);
+    }
 }
 
 bool KeptSounds::provesReadable(const FileKey &key) const
