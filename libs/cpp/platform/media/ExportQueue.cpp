@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <system_error>
 
 namespace {
 
@@ -45,10 +46,16 @@ ExportQueue::~ExportQueue()
 
 void ExportQueue::add(const QString &output, std::function<void()> job)
 {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     if (!m_thread.joinable()) {
+        try {
+            m_thread = std::thread([this] { run(); });
+        } catch (const std::system_error &) { // no more threads: then the caller waits for it
+            lock.unlock();
+            job();
+            return;
+        }
         qAddPostRoutine(finishAll);
-        m_thread = std::thread([this] { run(); });
     }
     m_jobs.push_back(std::move(job));
     m_outputs.append(absoluteName(output));

@@ -86,6 +86,7 @@ QString App::mailToFriend(const QString &strText, const QString &strPage)
         + encoded(strText + u" - "_qs + strPage);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): one of the slots
 void App::slotTellFriend()
 {
     openAddress(mailToFriend(shareMessage(), sharedPage()));
