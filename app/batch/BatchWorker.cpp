@@ -250,7 +250,7 @@ void BatchWorker::initAudioFileInfo(const QString &input)
         scan.add(chunk.data(), count);
     }
     m_pDecoder->finish();
-    m_numSamples = scan.numSamples();
+    m_numSamples = m_pDecoder->ranOutOfMemory() ? 0 : scan.numSamples();
     m_maxPeak = scan.maxPeak();
     m_firstAudible = scan.firstAudible();
     m_lastAudible = scan.lastAudible();
@@ -331,14 +331,16 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
 
     openDecoder(input);
     ChunkEffects effects(plan);
-    const qint64 delivered = runSampleLoop(generalOutput, effects);
+    const qint64 read = runSampleLoop(generalOutput, effects);
+    const qint64 delivered = m_pDecoder->ranOutOfMemory() ? 0 : read;
     if (delivered == 0) {
         generalOutput.setMetaInfoFile(QString());
     }
     generalOutput.close();
     m_pDecoder->finish();
     if (delivered == 0) {
-        // The source vanished after the analysis: a file without a sound isn't its conversion.
+        // The source vanished after the analysis, or memory ended before the sound: what there is
+        // isn't its conversion.
         QFile::remove(generalOutput.outputFile());
         QFile::remove(output);
         m_errors += tr("Can not convert: ") + input + u"\n"_qs;

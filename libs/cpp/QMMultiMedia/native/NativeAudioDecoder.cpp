@@ -48,6 +48,7 @@ bool NativeAudioDecoder::setFile(
     m_channels = channels;
     m_bitsPerSample = bitsPerSample;
     m_position = 0;
+    m_ranOutOfMemory = false;
     m_file = path;
     initInputInfo(path);
     const CFURLRef url
@@ -80,8 +81,9 @@ int NativeAudioDecoder::read(float *samples, int n)
     list.mBuffers[0]
         = {m_clientFormat.mChannelsPerFrame, static_cast<UInt32>(size), m_buffer.data()};
     auto frames = static_cast<UInt32>(size / m_clientFormat.mBytesPerPacket);
-    if (!checkResult(ExtAudioFileRead(m_audioFile, &frames, &list), "Couldn't read from input file")
-        || frames == 0) {
+    const OSStatus status = ExtAudioFileRead(m_audioFile, &frames, &list);
+    m_ranOutOfMemory = m_ranOutOfMemory || status == kAudioMemoryFullError;
+    if (!checkResult(status, "Couldn't read from input file") || frames == 0) {
         return 0;
     }
     const int count = static_cast<int>(frames * PlatformChannels);
