@@ -8,8 +8,8 @@ class QSocketNotifier;
 /// Turns SIGINT, SIGTERM and SIGHUP into a signal of the event loop.
 ///
 /// One object a process, made on the user-interface thread after the application object. The second
-/// SIGINT or SIGTERM acts as the system has it: the process ends. A signal that
-/// is ignored from outside stays ignored.
+/// SIGINT or SIGTERM acts as the system has it: the process ends. A signal that is ignored from
+/// outside stays ignored.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -3,7 +3,6 @@
 #include "AddButtonAction.h"
 #include "Literals.h"
 #include "PlayListModel.h"
-#include <algorithm>
 #include <QDateTime>
 #include <QMouseEvent>
 #include <QPainter>

@@ -74,7 +74,7 @@ private:
     QWidget *generalTab();
     QWidget *effectsTab();
 
-    bool hasRates() const; ///< whether the two boxes of rates have rows that belong together
+    bool hasRates() const; ///< whether a sample rate and a bit rate are chosen that must fit
     void createWidgets();
     void createLayout();
     void connectSignals();

@@ -48,18 +48,25 @@ void ExportQueue::add(const QString &output, std::function<void()> job)
 {
     std::unique_lock lock(m_mutex);
     if (!m_thread.joinable()) {
-        try {
-            m_thread = std::thread([this] { run(); });
-        } catch (const std::system_error &) { // no more threads: then the caller waits for it
-            lock.unlock();
-            job();
-            return;
-        }
-        qAddPostRoutine(finishAll);
+        startThread();
+    }
+    if (!m_thread.joinable()) { // there are no more threads: then the caller does it
+        lock.unlock();
+        job();
+        return;
     }
     m_jobs.push_back(std::move(job));
     m_outputs.append(absoluteName(output));
     m_changed.notify_all();
+}
+
+void ExportQueue::startThread()
+{
+    try {
+        m_thread = std::thread([this] { run(); });
+        qAddPostRoutine(finishAll);
+    } catch (const std::system_error &) { // the next export tries again
+    }
 }
 
 void ExportQueue::run()

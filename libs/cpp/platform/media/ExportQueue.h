@@ -17,7 +17,8 @@ class ExportQueue
 public:
     static ExportQueue &instance();
 
-    /// Runs the job on the queue's thread; the output counts as in flight until it is over.
+    /// Runs the job on the queue's thread, where the output counts as in flight until it is over;
+    /// at once, if no thread can be had.
     void add(const QString &output, std::function<void()> job);
 
     int count() const;
@@ -30,6 +31,7 @@ private:
     ~ExportQueue();
     Q_DISABLE_COPY(ExportQueue)
 
+    void startThread();
     void run();
 
     mutable std::mutex m_mutex;
