@@ -10,9 +10,11 @@ ScratchHome::ScratchHome()
     const QByteArray home = QFile::encodeName(m_dir.path());
     const QString runtime = m_dir.filePath(u"run"_qs);
     QDir().mkpath(runtime);
+    QDir().mkpath(m_dir.filePath(u"tmp"_qs));
     QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("HOME", home);
+    qputenv("TMPDIR", home + "/tmp");
     qputenv("XDG_CONFIG_HOME", home + "/.config");
     qputenv("XDG_DATA_HOME", home + "/.local/share");
     qputenv("XDG_CACHE_HOME", home + "/.cache");

@@ -1,19 +1,39 @@
 #include "SoundServer.h"
 
+#include "Literals.h"
 #include "MediaMaker.h"
 #include <cstring>
 #include <QDir>
 #include <QFile>
 
-// The server's own command line can't take a blank in a path.
-SoundServer::SoundServer()
-    : m_folder(QDir::tempPath() + u"/sound-XXXXXX"_qs)
+namespace {
+
+/// Of the server's socket and state. Its command line can't take a blank in a path.
+QString folder()
 {
+    return QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")) + u"/sound"_qs;
+}
+
+QString socketPath()
+{
+    return folder() + u"/native"_qs;
+}
+
+}
+
+void SoundServer::setEnvironment()
+{
+    QDir().mkpath(folder());
     qputenv("SDL_AUDIODRIVER", "pulseaudio");
     qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(socketPath()));
-    qputenv("PULSE_RUNTIME_PATH", QFile::encodeName(m_folder.path()));
-    qputenv("PULSE_STATE_PATH", QFile::encodeName(m_folder.path()));
-    qputenv("PULSE_COOKIE", QFile::encodeName(m_folder.filePath(u"cookie"_qs)));
+    qputenv("PULSE_RUNTIME_PATH", QFile::encodeName(folder()));
+    qputenv("PULSE_STATE_PATH", QFile::encodeName(folder()));
+    qputenv("PULSE_COOKIE", QFile::encodeName(folder() + u"/cookie"_qs));
+}
+
+SoundServer::SoundServer()
+{
+    QFile::remove(socketPath()); // of one that was killed
     m_server.setStandardOutputFile(QProcess::nullDevice());
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.start(u"pulseaudio"_qs,
@@ -22,7 +42,7 @@ SoundServer::SoundServer()
             u"module-null-sink sink_name=out format=float32le rate=48000 channels=2 norewinds=1"_qs,
             u"-L"_qs, u"module-native-protocol-unix auth-anonymous=1 socket="_qs + socketPath()});
     if (!m_server.waitForStarted()
-        || !MediaMaker::waitFor([this] { return QFile::exists(socketPath()); })) {
+        || !MediaMaker::waitFor([] { return QFile::exists(socketPath()); })) {
         return;
     }
     m_recorder.setStandardErrorFile(QProcess::nullDevice());

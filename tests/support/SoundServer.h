@@ -1,17 +1,19 @@
 #pragma once
 
-#include "Literals.h"
 #include <QProcess>
-#include <QTemporaryDir>
 #include <vector>
 
-/// A sound server of the test's own, with an output that nobody hears and everything records.
-///
-/// The environment leads the program's players to it for as long as it lives.
+/// A sound server of the test's own, with an output that nobody hears and everything records. One
+/// lives at a time.
 class SoundServer
 {
 public:
     static constexpr int Rate = 48000; ///< of what is recorded, Hz
+
+    /// Leads every player of this process to our servers, and to no other sound system; while none
+    /// lives they find nothing. Call it before the first player: their threads read the
+    /// environment.
+    static void setEnvironment();
 
     SoundServer();
     ~SoundServer();
@@ -25,12 +27,8 @@ public:
     /// What was played since the last call, two interleaved channels.
     std::vector<float> takeRecording();
 
-    /// Where the players look for the server.
-    QString socketPath() const { return m_folder.filePath(u"native"_qs); }
-
 private:
     Q_DISABLE_COPY(SoundServer)
-    QTemporaryDir m_folder;
     QProcess m_server;
     QProcess m_recorder;
     bool m_ready = false;

@@ -16,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -62,12 +63,7 @@ Heard analyse(const std::vector<float> &samples)
 class AudioPlayerTest : public ::testing::Test
 {
 protected:
-    /// Before the first player: no other sound system of the machine, and no server but ours.
-    static void SetUpTestSuite()
-    {
-        qputenv("SDL_AUDIODRIVER", "pulseaudio");
-        qputenv("PULSE_SERVER", "unix:/nonexistent");
-    }
+    static void SetUpTestSuite() { SoundServer::setEnvironment(); }
 
     QString file(const QString &name) const { return m_folder.filePath(name); }
 

@@ -67,9 +67,7 @@ TEST(AFTransCoder, StartsTheConverterWithItsArguments)
 
 TEST(AFTransCoder, MakesTheFileOrNone)
 {
-    // As the programs do: their own folder comes first on the search path.
     const QByteArray searchPath = qgetenv("PATH");
-    qputenv("PATH", QCoreApplication::applicationDirPath().toLocal8Bit() + ':' + searchPath);
     const QTemporaryDir folder;
     const QString source = folder.filePath(u"a \" b.wav"_qs);
     const QString destination = folder.filePath(u"a \" b.m4a"_qs);

@@ -38,8 +38,6 @@ protected:
         set(u"DestinationPath"_qs, destination());
         QDir().mkpath(destination());
         QDir().mkpath(in(QString()));
-        qputenv("PATH",
-            QFile::encodeName(QCoreApplication::applicationDirPath()) + ":" + qgetenv("PATH"));
     }
 
     static void set(const QString &key, const QVariant &value)

@@ -18,8 +18,6 @@ void PageFixture::SetUp()
 {
     initConverterResources();
     qputenv("SDL_AUDIODRIVER", "dummy");
-    qputenv(
-        "PATH", QFile::encodeName(QCoreApplication::applicationDirPath()) + ":" + qgetenv("PATH"));
     QMWidgets::App::settings()->clear();
     set(u"DestinationPath"_qs, destination());
     set(u"KeyPlaySoundAfter"_qs, false);
