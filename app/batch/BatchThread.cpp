@@ -8,6 +8,16 @@ BatchThread::BatchThread()
     m_pworker->moveToThread(this);
 }
 
+void BatchThread::begin()
+{
+    connect(this, &QThread::started, m_pworker, &BatchWorker::slotDoWork);
+    start();
+    if (!isRunning()) {
+        QMetaObject::invokeMethod(
+            this, [this] { m_pworker->refuseAll(); }, Qt::QueuedConnection);
+    }
+}
+
 BatchThread::~BatchThread()
 {
     quit();

@@ -18,6 +18,10 @@ public:
     /// The job of this run; lives as long as the thread object. Never null.
     BatchWorker *worker() const { return m_pworker; }
 
+    /// Starts the thread, and with it the job. Where the system has no thread left, the worker
+    /// refuses its sources from the event loop of the caller's thread: it is finished either way.
+    void begin();
+
 private:
     Q_DISABLE_COPY(BatchThread)
 

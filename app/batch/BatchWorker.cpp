@@ -106,6 +106,16 @@ void BatchWorker::slotDoWork()
     emit finished(runFolder);
 }
 
+void BatchWorker::refuseAll()
+{
+    for (const QString &file : qAsConst(m_inputFiles)) {
+        m_errors += tr("Can not convert: ") + file + u"\n"_qs;
+    }
+    emit errorsLog(m_errors);
+    emit totalProgress(100);
+    emit finished(QString());
+}
+
 void BatchWorker::convertInputFiles(const QString &runFolder, int total)
 {
     const QString extension = intermediateExtension();

@@ -48,6 +48,10 @@ public:
     /// Holds the run at the next chunk, or lets it go on. Thread-safe.
     void pause(bool on);
 
+    /// The signals of a run that can't begin: an error for each source, and the end, without a
+    /// folder. On any thread, in place of slotDoWork.
+    void refuseAll();
+
     /// Converts one source into the WAV path output and on; what goes wrong lands in the error log.
     void convert(const QString &input, const QString &output);
     /// The analysis pass: length, peak, first and last audible value of a source.

@@ -211,7 +211,6 @@ void ConsoleRun::convert()
     BatchWorker *worker = m_thread.worker();
     m_pprogress = std::make_unique<ConsoleProgress>(worker->numSteps());
     QEventLoop loop;
-    connect(&m_thread, &QThread::started, worker, &BatchWorker::slotDoWork);
     connect(worker, &BatchWorker::errorsLog, this, &ConsoleRun::slotErrors);
     connect(worker, &BatchWorker::finished, this, &ConsoleRun::slotFinished);
     connect(worker, &BatchWorker::finished, &loop, &QEventLoop::quit);
@@ -224,7 +223,7 @@ void ConsoleRun::convert()
         [this](int percent) { m_pprogress->setTotalPercent(percent); });
 
     Os::instance()->setDisableSleepMode(true);
-    m_thread.start();
+    m_thread.begin();
     loop.exec();
     m_thread.quit();
     m_thread.wait();
@@ -260,8 +259,10 @@ void ConsoleRun::report() const
     if (!m_errors.isEmpty()) {
         std::fputs(errorLines().toLocal8Bit().constData(), stderr);
     }
-    std::printf("%s\n", QFile::encodeName(m_runFolder).constData());
-    std::fflush(stdout);
+    if (!m_runFolder.isEmpty()) {
+        std::printf("%s\n", QFile::encodeName(m_runFolder).constData());
+        std::fflush(stdout);
+    }
 }
 
 /// The log to the letter, but a terminal isn't to obey the names in it.

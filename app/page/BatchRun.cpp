@@ -45,7 +45,7 @@ void BatchRun::start()
     // Made last, so that it is told of the end after all others.
     connect(worker(), &BatchWorker::finished, this, &BatchRun::slotFinished);
     keepAwake(!m_pause);
-    m_thread->start();
+    m_thread->begin();
 }
 
 void BatchRun::pause(bool pause)

@@ -144,7 +144,6 @@ BatchRun *MainPage::createRun()
     m_prun = run;
     m_pthread = run->thread();
     connect(run->worker(), &BatchWorker::finished, this, &MainPage::slotDone);
-    connect(run->thread(), &QThread::started, run->worker(), &BatchWorker::slotDoWork);
     connect(run, &BatchRun::over, this, [this, run] {
         m_lstRuns.removeOne(run);
         run->deleteLater();
@@ -236,7 +235,7 @@ void MainPage::slotError(const QString & /*strError*/) { }
 
 void MainPage::slotDone(const QString &runFolder)
 {
-    if (AppSettingsDialog::openFolderAfter()) {
+    if (AppSettingsDialog::openFolderAfter() && !runFolder.isEmpty()) {
         Os::openFolderAndSelectFile(runFolder);
     }
     if (AppSettingsDialog::playSoundAfter()) {

@@ -13,6 +13,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using MediaMaker::filesBelow;
@@ -24,7 +25,7 @@ namespace {
 void runToTheEnd(BatchThread &thread)
 {
     QObject::connect(thread.worker(), &BatchWorker::finished, &thread, &QThread::quit);
-    thread.start();
+    thread.begin();
     EXPECT_TRUE(waitFor([&thread] { return thread.isFinished(); }, 60000));
 }
 
@@ -70,7 +71,6 @@ protected:
         for (QSignalSpy *spy : {&m_finished, &m_errors, &m_total, &m_current}) {
             EXPECT_TRUE(spy->isValid());
         }
-        QObject::connect(&m_thread, &QThread::started, m_worker, &BatchWorker::slotDoWork);
         runToTheEnd(m_thread);
         return m_finished.isEmpty() ? QString() : m_finished.first().first().toString();
     }
@@ -268,11 +268,27 @@ QStringList recordOfRun(const QVector<QString> &files, const QString &destinatio
     QObject::connect(worker, &BatchWorker::currentFile, worker, note);
     QObject::connect(worker, &BatchWorker::errorsLog, worker, note);
     QObject::connect(worker, &BatchWorker::finished, worker, [note] { note(u"finished"_qs); });
-    QObject::connect(&thread, &QThread::started, worker, &BatchWorker::slotDoWork);
     runToTheEnd(thread);
     return record;
 }
 
+}
+
+TEST_F(BatchWorkerTest, IsFinishedWhereNoThreadCanStart)
+{
+    m_worker->setInputFiles({in(u"a.wav"_qs), in(u"b.wav"_qs)});
+    m_thread.setStackSize(256U << 20); // larger than any that was kept of an earlier thread
+    rlimit usual {};
+    ASSERT_EQ(getrlimit(RLIMIT_AS, &usual), 0);
+    const rlimit nothing {1, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_AS, &nothing), 0);
+    m_thread.begin();
+    setrlimit(RLIMIT_AS, &usual);
+    EXPECT_TRUE(m_finished.isEmpty()); // who asked is not called back within the call
+    ASSERT_TRUE(waitFor([this] { return !m_finished.isEmpty(); }));
+    EXPECT_EQ(m_finished.first().first().toString(), QString());
+    EXPECT_EQ(log().count(u"Can not convert: "_qs), 2);
+    EXPECT_EQ(m_total.last().first().toInt(), 100);
 }
 
 TEST_F(BatchWorkerTest, ReadingAheadChangesNeitherSignalsNorEffects)

@@ -10,6 +10,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDebug>
 #include <QFileInfo>
+#include <system_error>
 #include <thread>
 
 namespace Desktop {
@@ -83,15 +84,21 @@ void Bus::connectInBackground(Kind kind)
 {
     const auto type
         = kind == Kind::Session ? QDBusConnection::SessionBus : QDBusConnection::SystemBus;
-    std::thread([this, attempt = m_attempt, type, strName = m_strName] {
+    const auto connectToBus = [this, attempt = m_attempt, type, strName = m_strName] {
         const bool bConnected = QDBusConnection::connectToBus(type, strName).isConnected();
         const std::lock_guard lock(attempt->mutex);
         attempt->bConnected = bConnected;
         attempt->bFinished = true;
         QMetaObject::invokeMethod(this, &Bus::takeResult, Qt::QueuedConnection);
         attempt->changed.notify_all();
-    }).detach();
-    finishBeforeTheEnd(m_attempt);
+    };
+    try {
+        std::thread(connectToBus).detach();
+        finishBeforeTheEnd(m_attempt);
+    } catch (const std::system_error &) { // no thread is left: then there is no bus either
+        m_attempt->bFinished = true;
+        takeResult();
+    }
 }
 
 void Bus::takeResult()
