@@ -3,6 +3,7 @@
 #include "BatchThread.h"
 #include "Literals.h"
 #include "MediaMaker.h"
+#include "PendingExports.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -72,6 +73,7 @@ protected:
             EXPECT_TRUE(spy->isValid());
         }
         runToTheEnd(m_thread);
+        PendingExports::waitForAll();
         return m_finished.isEmpty() ? QString() : m_finished.first().first().toString();
     }
 
