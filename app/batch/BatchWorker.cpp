@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <new>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -126,7 +127,12 @@ void BatchWorker::convertInputFiles(const QString &runFolder, int total)
             = freeName(folderFor(file, runFolder), QFileInfo(file).completeBaseName(), extension);
         m_receipt = RunReceipt();
         m_receipt.source = file;
-        convert(file, output);
+        try {
+            convert(file, output);
+        } catch (const std::bad_alloc &) {
+            QFile::remove(output);
+            m_errors += tr("Can not convert: ") + file + u"\n"_qs;
+        }
         m_receipts.append(m_receipt);
         if (m_stop) {
             QFile::remove(output);

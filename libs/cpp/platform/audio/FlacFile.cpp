@@ -51,19 +51,22 @@ public:
         }
         m_muxer.reset(muxer);
         m_encoder.reset(avcodec_alloc_context3(codec));
+        AVStream *stream = avformat_new_stream(muxer, nullptr);
+        m_packet.reset(av_packet_alloc());
+        m_frame.reset(av_frame_alloc());
+        if (!m_encoder || stream == nullptr || !m_packet || !m_frame) {
+            return kAudioMemoryFullError;
+        }
         m_encoder->sample_rate = static_cast<int>(m_output.mSampleRate);
         m_encoder->sample_fmt = isWide() ? AV_SAMPLE_FMT_S32 : AV_SAMPLE_FMT_S16;
         m_encoder->bits_per_raw_sample = isWide() ? 24 : 16;
         m_encoder->time_base = {1, m_encoder->sample_rate};
         av_channel_layout_default(&m_encoder->ch_layout, channels());
-        AVStream *stream = avformat_new_stream(muxer, nullptr);
         if (avcodec_open2(m_encoder.get(), codec, nullptr) < 0
             || avcodec_parameters_from_context(stream->codecpar, m_encoder.get()) < 0) {
             return kAudioFileUnsupportedDataFormatError;
         }
         stream->time_base = m_encoder->time_base;
-        m_packet.reset(av_packet_alloc());
-        m_frame.reset(av_frame_alloc());
         if (avio_open(&muxer->pb, ("file:" + path).constData(), AVIO_FLAG_WRITE) < 0) {
             return kAudioFileFileNotFoundError;
         }

@@ -114,7 +114,8 @@ std::unique_ptr<SoundSource> SoundSource::open(std::unique_ptr<InputFile> file, 
     source->m_file = std::move(file);
     source->m_packet.reset(av_packet_alloc());
     source->m_frame.reset(av_frame_alloc());
-    *status = source->openContainer();
+    const bool hasMemory = source->m_packet && source->m_frame;
+    *status = hasMemory ? source->openContainer() : kAudioMemoryFullError;
     if (*status == noErr) {
         *status = source->chooseStream();
     }
@@ -129,9 +130,16 @@ SoundSource::~SoundSource() = default;
 OSStatus SoundSource::openContainer()
 {
     auto *buffer = static_cast<unsigned char *>(av_malloc(IoBufferBytes));
-    AVIOContext *io
-        = avio_alloc_context(buffer, IoBufferBytes, 0, m_file.get(), readBytes, nullptr, seekBytes);
+    AVIOContext *io = buffer == nullptr
+        ? nullptr
+        : avio_alloc_context(buffer, IoBufferBytes, 0, m_file.get(), readBytes, nullptr, seekBytes);
     AVFormatContext *container = avformat_alloc_context();
+    if (io == nullptr || container == nullptr) {
+        avio_context_free(&io);
+        av_free(buffer);
+        avformat_free_context(container);
+        return kAudioMemoryFullError;
+    }
     container->pb = io;
     container->flags |= AVFMT_FLAG_CUSTOM_IO;
     container->interrupt_callback = {isCancelled, m_file.get()};
@@ -202,6 +210,9 @@ OSStatus SoundSource::openDecoder()
     readGaplessInformation();
     const AVCodec *codec = avcodec_find_decoder(m_stream->codecpar->codec_id);
     m_decoder.reset(avcodec_alloc_context3(codec));
+    if (!m_decoder) {
+        return kAudioMemoryFullError;
+    }
     if (avcodec_parameters_to_context(m_decoder.get(), m_stream->codecpar) < 0) {
         return kAudioFileInvalidFileError;
     }
