@@ -33,24 +33,46 @@ struct Heard
     double amplitude[2] = {0.0, 0.0}; ///< of the sines in the left and right channel
 };
 
-Heard analyse(const std::vector<float> &samples)
+/// What 10 ms of it hold, where nothing need have sounded all the time.
+Heard analyseBlock(const float *samples, int frames)
 {
     constexpr double Silence = 1e-3;
-    constexpr std::size_t Block = SoundServer::Rate / 100; // 10 ms
+    int first = frames;
+    int last = -1;
+    int crossing = -1;
+    int shortestPeriod = 0; // of the left channel, in frames
+    Heard heard;
+    for (int i = 0; i < frames; ++i) {
+        const float *frame = samples + 2 * i;
+        for (int side = 0; side < 2; ++side) {
+            const double size = std::abs(frame[side]);
+            heard.amplitude[side] = std::max(heard.amplitude[side], size);
+            first = size > Silence ? std::min(first, i) : first;
+            last = size > Silence ? i : last;
+        }
+        if (i > 0 && frame[-2] < 0 && frame[0] >= 0) {
+            const int period = crossing < 0 ? 0 : i - crossing;
+            shortestPeriod = shortestPeriod == 0 ? period : std::min(shortestPeriod, period);
+            crossing = i;
+        }
+    }
+    heard.seconds = std::max(0, last - first + 1) / double(SoundServer::Rate);
+    heard.lowSeconds = shortestPeriod > SoundServer::Rate / 1000 ? heard.seconds : 0.0;
+    return heard;
+}
+
+Heard analyse(const std::vector<float> &samples)
+{
+    constexpr int BlockFrames = SoundServer::Rate / 100;
+    constexpr std::size_t Block = 2 * BlockFrames;
     std::vector<double> peaks[2];
     Heard heard;
-    for (std::size_t begin = 0; begin + 2 * Block <= samples.size(); begin += 2 * Block) {
-        double peak[2] = {0.0, 0.0};
-        int crossings = 0;
-        for (std::size_t i = begin; i < begin + 2 * Block; ++i) {
-            peak[i % 2] = std::max<double>(peak[i % 2], std::abs(samples[i]));
-            crossings += i >= begin + 2 && samples[i - 2] < 0 && samples[i] >= 0 ? 1 : 0;
-        }
-        if (std::max(peak[0], peak[1]) > Silence) {
-            heard.seconds += 0.01;
-            heard.lowSeconds += crossings <= 20 ? 0.01 : 0.0;
-            peaks[0].push_back(peak[0]);
-            peaks[1].push_back(peak[1]);
+    for (std::size_t begin = 0; begin + Block <= samples.size(); begin += Block) {
+        const Heard block = analyseBlock(samples.data() + begin, BlockFrames);
+        heard.seconds += block.seconds;
+        heard.lowSeconds += block.lowSeconds;
+        for (int side = 0; side < 2 && block.seconds > 0.0; ++side) {
+            peaks[side].push_back(block.amplitude[side]);
         }
     }
     for (int side = 0; side < 2 && !peaks[side].empty(); ++side) {
