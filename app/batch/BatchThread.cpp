@@ -8,6 +8,14 @@ BatchThread::BatchThread()
     m_pworker->moveToThread(this);
 }
 
+BatchThread::~BatchThread()
+{
+    quit();
+    wait();
+    // The thread is over, so its objects may be deleted from here.
+    delete m_pworker;
+}
+
 void BatchThread::begin()
 {
     connect(this, &QThread::started, m_pworker, &BatchWorker::slotDoWork);
@@ -16,12 +24,4 @@ void BatchThread::begin()
         QMetaObject::invokeMethod(
             this, [this] { m_pworker->refuseAll(); }, Qt::QueuedConnection);
     }
-}
-
-BatchThread::~BatchThread()
-{
-    quit();
-    wait();
-    // The thread is over, so its objects may be deleted from here.
-    delete m_pworker;
 }

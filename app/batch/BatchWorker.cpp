@@ -110,11 +110,16 @@ void BatchWorker::slotDoWork()
 void BatchWorker::refuseAll()
 {
     for (const QString &file : qAsConst(m_inputFiles)) {
-        m_errors += tr("Can not convert: ") + file + u"\n"_qs;
+        refuse(file);
     }
     emit errorsLog(m_errors);
     emit totalProgress(100);
     emit finished(QString());
+}
+
+void BatchWorker::refuse(const QString &input)
+{
+    m_errors += tr("Can not convert: ") + input + u"\n"_qs;
 }
 
 void BatchWorker::convertInputFiles(const QString &runFolder, int total)
@@ -131,7 +136,7 @@ void BatchWorker::convertInputFiles(const QString &runFolder, int total)
             convert(file, output);
         } catch (const std::bad_alloc &) {
             QFile::remove(output);
-            m_errors += tr("Can not convert: ") + file + u"\n"_qs;
+            refuse(file);
         }
         m_receipts.append(m_receipt);
         if (m_stop) {
@@ -266,7 +271,7 @@ void BatchWorker::initAudioFileInfo(const QString &input)
         scan.add(chunk.data(), count);
     }
     m_pDecoder->finish();
-    m_numSamples = m_pDecoder->ranOutOfMemory() ? 0 : scan.numSamples();
+    m_numSamples = m_pDecoder->endedEarly() ? 0 : scan.numSamples();
     m_maxPeak = scan.maxPeak();
     m_firstAudible = scan.firstAudible();
     m_lastAudible = scan.lastAudible();
@@ -293,7 +298,7 @@ bool BatchWorker::hasConvertibleLength(const QString &input)
         return false;
     }
     if (m_numSamples == 0) {
-        m_errors += tr("Can not convert: ") + input + u"\n"_qs;
+        refuse(input);
         return false;
     }
     return true;
@@ -348,18 +353,18 @@ void BatchWorker::convertDecoded(const QString &input, const QString &output)
     openDecoder(input);
     ChunkEffects effects(plan);
     const qint64 read = runSampleLoop(generalOutput, effects);
-    const qint64 delivered = m_pDecoder->ranOutOfMemory() ? 0 : read;
+    const qint64 delivered = m_pDecoder->endedEarly() ? 0 : read;
     if (delivered == 0) {
         generalOutput.setMetaInfoFile(QString());
     }
     generalOutput.close();
     m_pDecoder->finish();
     if (delivered == 0) {
-        // The source vanished after the analysis, or memory ended before the sound: what there is
+        // The source vanished after the analysis, or couldn't be read to its end: what there is
         // isn't its conversion.
         QFile::remove(generalOutput.outputFile());
         QFile::remove(output);
-        m_errors += tr("Can not convert: ") + input + u"\n"_qs;
+        refuse(input);
         return;
     }
 

@@ -101,6 +101,7 @@ private:
         bool isFile = false;
     };
 
+    void refuse(const QString &input);
     void convertInputFiles(const QString &runFolder, int total);
     void copySideFiles(const QString &runFolder, int total);
     QVector<CopyStage> copyStages() const;

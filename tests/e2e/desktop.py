@@ -153,14 +153,14 @@ class Desktop:
 
     def convert(self, window):
         """Starts a run, again where a drop was still on its way; the id of the run's window."""
-        for attempt in range(5):
+        for _ in range(5):
             self.run("xdotool", "windowactivate", "--sync", window)
             self.key("ctrl+Return")
             try:
                 return self.window("Calderin M4A Batch Process", 4)
             except TimeoutError:
-                if attempt == 4:
-                    raise
+                pass
+        raise TimeoutError("pressed Convert in vain")
 
     def key(self, *keys):
         self.run("xdotool", "key", *keys)

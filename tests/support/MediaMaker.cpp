@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QtEndian>
 #include <QThread>
 
 namespace MediaMaker {
@@ -100,6 +101,28 @@ bool writeFile(const QString &file, const QByteArray &bytes)
     QFile output(file);
     return output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size()
         && output.flush();
+}
+
+bool writeAvi(const QString &file, const QByteArray &samples, qint64 more)
+{
+    const auto chunk = [](const char *name, const QByteArray &content, qint64 further = 0) {
+        const quint32 size = qToLittleEndian<quint32>(content.size() + further);
+        return QByteArray(name, 4).append(reinterpret_cast<const char *>(&size), 4) + content;
+    };
+    const QByteArray stream = "auds" + QByteArray(16, '\0') + QByteArray::fromHex("01000000")
+        + QByteArray::fromHex("44ac0000") + QByteArray(12, '\0')
+        + QByteArray::fromHex("ffffffff01000000") + QByteArray(8, '\0');
+    const QByteArray header = "hdrl"
+        + chunk("avih", QByteArray(24, '\0') + '\1' + QByteArray(31, '\0'))
+        + chunk("LIST",
+            "strl" + chunk("strh", stream)
+                + chunk("strf", QByteArray::fromHex("0100010044ac000044ac0000010008000000")));
+    QByteArray movie = "movi";
+    movie += samples.isEmpty() ? QByteArray() : chunk("00wb", samples);
+    movie += more == 0 ? QByteArray() : chunk("00wb", {}, more);
+    const QByteArray head = "AVI " + chunk("LIST", header) + chunk("LIST", movie, more);
+    const QByteArray bytes = chunk("RIFF", head, more);
+    return writeFile(file, bytes) && QFile::resize(file, bytes.size() + more);
 }
 
 QStringList filesBelow(const QString &folder)

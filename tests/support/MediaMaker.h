@@ -44,6 +44,10 @@ QByteArray bytesOf(const QString &file);
 /// Writes the bytes to a new file; false if that fails.
 bool writeFile(const QString &file, const QByteArray &bytes);
 
+/// Writes an AVI with one channel of 8 bits at 44100 Hz: a chunk with these samples and, if asked,
+/// one of so many more, a hole in the file.
+bool writeAvi(const QString &file, const QByteArray &samples, qint64 more = 0);
+
 /// The files below a folder, hidden ones too, as sorted paths relative to it.
 QStringList filesBelow(const QString &folder);
 

@@ -275,6 +275,15 @@ QStringList recordOfRun(const QVector<QString> &files, const QString &destinatio
 
 }
 
+TEST_F(BatchWorkerTest, TakesNoPartOfASourceForTheWhole)
+{
+    const QString file = in(u"a.avi"_qs);
+    ASSERT_TRUE(MediaMaker::writeAvi(file, QByteArray(100000, 'x'), 100'000'000));
+    const QString folder = run({file}); // the second chunk is more than is read in one piece
+    EXPECT_EQ(log(), u"Can not convert: "_qs + file + u"\n"_qs);
+    EXPECT_EQ(filesBelow(folder), QStringList());
+}
+
 TEST_F(BatchWorkerTest, IsFinishedWhereNoThreadCanStart)
 {
     m_worker->setInputFiles({in(u"a.wav"_qs), in(u"b.wav"_qs)});

@@ -48,7 +48,7 @@ bool NativeAudioDecoder::setFile(
     m_channels = channels;
     m_bitsPerSample = bitsPerSample;
     m_position = 0;
-    m_ranOutOfMemory = false;
+    m_endedEarly = false;
     m_file = path;
     initInputInfo(path);
     const CFURLRef url
@@ -82,7 +82,7 @@ int NativeAudioDecoder::read(float *samples, int n)
         = {m_clientFormat.mChannelsPerFrame, static_cast<UInt32>(size), m_buffer.data()};
     auto frames = static_cast<UInt32>(size / m_clientFormat.mBytesPerPacket);
     const OSStatus status = ExtAudioFileRead(m_audioFile, &frames, &list);
-    m_ranOutOfMemory = m_ranOutOfMemory || status == kAudioMemoryFullError;
+    m_endedEarly = m_endedEarly || status != noErr;
     if (!checkResult(status, "Couldn't read from input file") || frames == 0) {
         return 0;
     }

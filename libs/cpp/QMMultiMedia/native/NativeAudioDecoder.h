@@ -34,8 +34,9 @@ public:
     /// Frames delivered since setFile.
     qint64 position() const { return m_position; }
 
-    /// Whether what was read since setFile ended because memory did: the file itself goes on.
-    bool ranOutOfMemory() const { return m_ranOutOfMemory; }
+    /// Whether what was read since setFile ended with an error, as without memory: the file itself
+    /// may go on.
+    bool endedEarly() const { return m_endedEarly; }
 
     /// Channels of the source; 0 if it can't be played.
     int inputChannels() const { return m_inputChannels; }
@@ -53,7 +54,7 @@ private:
     AudioStreamBasicDescription m_clientFormat;
     ExtAudioFileRef m_audioFile = nullptr;
     qint64 m_position = 0;
-    bool m_ranOutOfMemory = false;
+    bool m_endedEarly = false;
     int m_bitsPerSample = 16;
     int m_inputChannels = 0;
     int m_channels = 0;

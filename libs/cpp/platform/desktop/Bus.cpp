@@ -72,15 +72,14 @@ Bus::Bus(Kind kind)
     : m_attempt(std::make_shared<Attempt>())
     , m_strName(kind == Kind::Session ? u"calderin-session"_qs : u"calderin-system"_qs)
 {
-    if (kind == Kind::Session && !hasSessionBus()) {
+    if ((kind == Kind::Session && !hasSessionBus()) || !connectInBackground(kind)) {
         m_attempt->bFinished = true;
         takeResult();
-    } else {
-        connectInBackground(kind);
     }
 }
 
-void Bus::connectInBackground(Kind kind)
+/// False where there is no thread for it.
+bool Bus::connectInBackground(Kind kind)
 {
     const auto type
         = kind == Kind::Session ? QDBusConnection::SessionBus : QDBusConnection::SystemBus;
@@ -94,11 +93,11 @@ void Bus::connectInBackground(Kind kind)
     };
     try {
         std::thread(connectToBus).detach();
-        finishBeforeTheEnd(m_attempt);
-    } catch (const std::system_error &) { // no thread is left: then there is no bus either
-        m_attempt->bFinished = true;
-        takeResult();
+    } catch (const std::system_error &) {
+        return false;
     }
+    finishBeforeTheEnd(m_attempt);
+    return true;
 }
 
 void Bus::takeResult()

@@ -67,7 +67,7 @@ private:
 
     explicit Bus(Kind kind);
     static void finishBeforeTheEnd(const std::shared_ptr<Attempt> &attempt);
-    void connectInBackground(Kind kind);
+    bool connectInBackground(Kind kind);
     void takeResult();
 
     std::shared_ptr<Attempt> m_attempt;
